@@ -1,0 +1,33 @@
+#pragma once
+// One program serves several script packs. The edition names the pack this build serves; every area
+// of the settings tree and of the navigation exists only in the editions that have it.
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace qb::store {
+
+inline constexpr std::string_view kEdition = "Quillbook";
+
+struct ProgramVersion {
+    int major;
+    int minor;
+    int revision;
+};
+
+inline constexpr ProgramVersion kVersion{QB_VERSION_MAJOR, QB_VERSION_MINOR, QB_VERSION_PATCH};
+
+// "5.3.0": stamped into Version.tbl and shown in the captions.
+std::string VersionText(ProgramVersion version = kVersion);
+
+// Whether the edition is one of `editions`. "Quillbook" is the full pack and has every area, so
+// callers list only the other editions that have an area.
+bool EditionHas(std::initializer_list<std::string_view> editions,
+                std::string_view edition = kEdition);
+
+// The archive family is written but switched off: it exists in its own editions, and in the full
+// pack only from major version 6.
+bool ArchiveBuilt(std::string_view edition = kEdition, ProgramVersion version = kVersion);
+
+}  // namespace qb::store

@@ -1,0 +1,103 @@
+#include "store/paths.h"
+
+#include <system_error>
+#include <vector>
+
+#include "store/cp1252.h"
+
+namespace qb::store {
+namespace fs = std::filesystem;
+
+namespace {
+
+unsigned char FoldByte(unsigned char b) {
+    if (b >= 'A' && b <= 'Z') return static_cast<unsigned char>(b + 32);
+    if (b >= 0xC0 && b <= 0xDE && b != 0xD7) return static_cast<unsigned char>(b + 32);
+    switch (b) {
+        case 0x8A:  // S caron
+        case 0x8C:  // OE
+        case 0x8E:  // Z caron
+            return static_cast<unsigned char>(b + 16);
+        case 0x9F:  // Y diaeresis
+            return 0xFF;
+        default:
+            return b;
+    }
+}
+
+std::vector<std::string> Components(std::string_view text) {
+    std::vector<std::string> parts;
+    std::string current;
+    for (char c : text) {
+        if (c == '\\' || c == '/') {
+            if (!current.empty()) parts.push_back(std::move(current));
+            current.clear();
+        } else {
+            current.push_back(c);
+        }
+    }
+    if (!current.empty()) parts.push_back(std::move(current));
+    return parts;
+}
+
+}  // namespace
+
+std::string FoldCase(std::string_view cp1252) {
+    std::string out(cp1252);
+    for (char& c : out)
+        c = static_cast<char>(FoldByte(static_cast<unsigned char>(c)));
+    return out;
+}
+
+std::string ToScriptPath(const fs::path& native) {
+    std::string out = "Z:";
+    const std::string text = Utf8ToCp1252(native.lexically_normal().string());
+    for (char c : text)
+        out.push_back(c == '/' ? '\\' : c);
+    if (out.size() > 3 && out.back() == '\\') out.pop_back();
+    if (out == "Z:") out += '\\';
+    return out;
+}
+
+bool HasDrive(std::string_view file) {
+    return file.size() >= 3 && file[1] == ':' && file[2] == '\\';
+}
+
+std::optional<fs::path> ToNativePath(std::string_view scriptPath) {
+    if (!HasDrive(scriptPath)) return std::nullopt;
+    fs::path native = "/";
+    bool matching = true;  // whether the folder so far exists, so that listing it makes sense
+    for (const std::string& part : Components(scriptPath.substr(3))) {
+        const std::string name = Cp1252ToUtf8(part);
+        if (part == "." || part == "..") {
+            native /= name;
+            continue;
+        }
+        std::error_code error;
+        if (matching && !fs::exists(native / name, error)) {
+            matching = false;
+            const std::string wanted = FoldCase(part);
+            for (const auto& entry : fs::directory_iterator(native, error)) {
+                const std::string entryName = entry.path().filename().string();
+                if (FoldCase(Utf8ToCp1252(entryName)) == wanted) {
+                    native /= entryName;
+                    matching = true;
+                    break;
+                }
+            }
+            if (matching) continue;
+        }
+        native /= name;
+    }
+    return native;
+}
+
+std::string HubFolderOf(std::string_view programFolder) {
+    if (programFolder.size() < 2) return {};
+    for (size_t i = programFolder.size() - 1; i-- > 0;) {
+        if (programFolder[i] == '\\') return std::string(programFolder.substr(0, i + 1));
+    }
+    return {};
+}
+
+}  // namespace qb::store

@@ -1,0 +1,98 @@
+#pragma once
+// The shared file operations through which every page and builder reaches its files. Each reader
+// is a line scanner with its own split and trim rules and its own way of failing; pages depend on
+// those differences (a missing file must read as empty), so each is kept exactly.
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace qb::store {
+
+// A row that LoadTableRows would append to a list.
+struct TableRow {
+    std::string key;    // "3ID" for a bare row, "4*123456789.5ID" for a keyed one
+    std::string text;   // the bare row, or the keyed row's first field
+    std::string value;  // the keyed row's second field
+};
+
+// A key and value that ApplyTableValues would match against a list's rows.
+struct TableValue {
+    std::string key;
+    std::string value;
+};
+
+class TableFiles {
+  public:
+    // A line past this number ends ReadTableValue and ReadTextFile, and LoadFileNameRows stops.
+    static constexpr int kLineLimit = 5000;
+
+    // `programFolder` is the folder the manager runs from, in the scripts' path form.
+    explicit TableFiles(std::string programFolder);
+
+    const std::string& ProgramFolder() const { return programFolder_; }
+    std::string SettingsFolder() const;  // program folder, "\Vandrell's Quillbook\Settings"
+    std::string HubFolder() const;       // empty when it can't be derived
+
+    // Value of `key` in the table `table` (empty: the whole file), or empty. Ends at the first
+    // blank line, line without "=" (other than a closing line) or line 5001. Once the named
+    // table's header is met the search runs to the end of the file: a key that table lacks is
+    // found in any later table that has it.
+    std::string ReadTableValue(std::string_view file, std::string_view key, std::string_view table,
+                               bool inAppFolder = false);
+
+    // Second one-key reader, splitting at every "=". A file that can't be opened, or a second
+    // failing line, raises FatalError.
+    std::string ReadTableFlag(std::string_view file, std::string_view table, std::string_view key);
+    bool ReadTableFlagIsOne(std::string_view file, std::string_view table, std::string_view key);
+
+    // The rows of a table. `existingRows` is the number of rows the list holds already, which
+    // keyed rows' keys are numbered from. A missing file gives no rows; a second failing line
+    // raises FatalError.
+    std::vector<TableRow> LoadTableRows(std::string_view file, std::string_view delimiter,
+                                        std::string_view table, bool inAppFolder, bool keepBrackets,
+                                        int existingRows = 0);
+
+    // Keys and values of every line that holds "=", but the table's header and closing lines.
+    // A file that can't be opened raises FatalError.
+    std::vector<TableValue> ApplyTableValues(std::string_view file, std::string_view table);
+
+    // Keys of a table of file names, brackets kept and ".lst", ".tbl" or ".txt" cut off.
+    std::vector<std::string> LoadFileNameRows(std::string_view file, std::string_view table);
+
+    // The whole file, every line followed by CRLF. Line 5001 returns empty and leaves the file
+    // slot taken: every later open fails as for a missing file, until the program ends.
+    std::string ReadTextFile(std::string_view file);
+
+    // Replaces the file by `text` and one line break, atomically. Raises FatalError when the
+    // folder is missing, the file is read-only, or the disk refuses; the old file stays whole.
+    void WriteTextFile(std::string_view file, std::string_view text, bool inAppFolder = false);
+
+    // The file system object of the scripts' home system, on script paths.
+    bool FileExists(std::string_view path) const;
+    bool FolderExists(std::string_view path) const;
+    void CreateFolder(std::string_view path);  // FatalError when it can't be made
+
+    // Whether a read past line 5000 of ReadTextFile has left the file slot taken.
+    bool SlotStuck() const { return slotStuck_; }
+
+    // The next value of the row key generator: uniform in 0 to 1. It is never seeded, so a run
+    // repeats the same keys, as the scripts' home system does.
+    double NextRandom();
+
+    // The path an operation opens: `file` as it stands when characters 2 and 3 are ":\" and the
+    // operation has that test, else below the program folder or the settings folder.
+    std::string Resolve(std::string_view file, bool inAppFolder, bool driveTest) const;
+
+  private:
+    std::string programFolder_;
+    bool slotStuck_ = false;
+    std::minstd_rand random_;
+};
+
+// A number in general decimal form, as row keys carry it.
+std::string FormatGeneral(double value);
+
+}  // namespace qb::store

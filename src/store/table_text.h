@@ -1,0 +1,34 @@
+#pragma once
+// Builds the text of a table file the way every writer does: one line per key, tabs for depth,
+// lines joined by CRLF and no break after the last one (the writer adds it). Values are written
+// as they stand: the scripts' files have never escaped anything.
+
+#include <string>
+#include <string_view>
+
+namespace qb::store {
+
+inline constexpr std::string_view kNewline = "\r\n";
+
+class TableText {
+  public:
+    // Starts with the header line, e.g. "tBotSettings = {".
+    explicit TableText(std::string_view header);
+
+    TableText& Line(int depth, std::string_view text);
+    TableText& Bare(int depth, std::string_view key, std::string_view value);    // key = value,
+    TableText& Quoted(int depth, std::string_view key, std::string_view value);  // key = "value",
+    TableText& Open(int depth, std::string_view name);                           // name = {
+    TableText& Close(int depth);                                                 // },
+    TableText& Row(int depth, int number, std::string_view value);               // [n] = value,
+
+    // The text with the end line "}" behind it.
+    std::string End();
+    // The text as it stands, with no end line.
+    const std::string& Text() const { return text_; }
+
+  private:
+    std::string text_;
+};
+
+}  // namespace qb::store

@@ -1,0 +1,78 @@
+// The one mapping between the scripts' paths and Linux paths, and the folders derived from the
+// program folder.
+
+#include "store/paths.h"
+
+#include <gtest/gtest.h>
+
+#include "store/cp1252.h"
+#include "store/edition.h"
+#include "support/temp_hub.h"
+
+namespace qb::store {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Paths, LinuxPathsTakeTheDriveForm) {
+    EXPECT_EQ(ToScriptPath("/srv/hub/scripts"), "Z:\\srv\\hub\\scripts");
+    EXPECT_EQ(ToScriptPath("/srv/hub/scripts/"), "Z:\\srv\\hub\\scripts");
+    EXPECT_EQ(ToScriptPath("/"), "Z:\\");
+    EXPECT_EQ(ToScriptPath("/srv/Caf\xC3\xA9"), "Z:\\srv\\Caf\xE9");  // UTF-8 name, 1252 path
+}
+
+TEST(Paths, TheHubFolderIsTheProgramFolderCutBehindItsLastBackslash) {
+    EXPECT_EQ(HubFolderOf("Z:\\srv\\hub\\scripts"), "Z:\\srv\\hub\\");
+    EXPECT_EQ(HubFolderOf("Z:\\srv\\hub\\scripts\\"), "Z:\\srv\\hub\\");  // trailing one ignored
+    EXPECT_EQ(HubFolderOf("Z:\\scripts"), "Z:\\");
+    EXPECT_EQ(HubFolderOf("Z:\\"), "");  // a drive root runs out of characters
+    EXPECT_EQ(HubFolderOf(""), "");
+}
+
+TEST(Paths, OnlyTextWithADriveIsAbsolute) {
+    EXPECT_TRUE(HasDrive("C:\\x"));
+    EXPECT_FALSE(HasDrive("\\\\server\\share\\x"));
+    EXPECT_FALSE(HasDrive("Security\\x.tbl"));
+    EXPECT_FALSE(ToNativePath("\\\\server\\share\\x").has_value());
+    EXPECT_FALSE(ToNativePath("Security\\x.tbl").has_value());
+}
+
+TEST(Paths, ComponentsMatchExistingNamesIgnoringCase) {
+    test::TempHub hub;
+    hub.WriteSetting("Language/Commands/English.tbl", "x");
+    const std::string settings = ToScriptPath(hub.Settings());
+    EXPECT_EQ(*ToNativePath(settings + "\\LANGUAGE\\commands\\english.TBL"),
+              hub.Settings() / "Language" / "Commands" / "English.tbl");
+    // A name that matches nothing is used as given, and so is everything below it.
+    EXPECT_EQ(*ToNativePath(settings + "\\language\\New\\File.tbl"),
+              hub.Settings() / "Language" / "New" / "File.tbl");
+}
+
+TEST(Paths, FoldCaseCoversTheLettersOfWindows1252) {
+    EXPECT_EQ(FoldCase("ABC\xC9\x8A\x9F"), "abc\xE9\x9A\xFF");
+    EXPECT_EQ(FoldCase("\xD7\xF7"), "\xD7\xF7");  // the multiplication and division signs
+}
+
+TEST(Cp1252, EveryByteSurvivesARoundTripThroughUtf8) {
+    std::string all;
+    for (int b = 0; b < 256; ++b)
+        all.push_back(static_cast<char>(b));
+    EXPECT_EQ(Utf8ToCp1252(Cp1252ToUtf8(all)), all);
+    EXPECT_EQ(Cp1252ToUtf8("\xBB\xAB\x80"), "\xC2\xBB\xC2\xAB\xE2\x82\xAC");
+    EXPECT_EQ(Utf8ToCp1252("\xE2\x98\x83 \xFF"), "? ?");  // a snowman, and a stray byte
+}
+
+TEST(Edition, TheFullPackHasEveryAreaButTheArchiveBeforeVersionSix) {
+    EXPECT_TRUE(EditionHas({"Folianth"}));
+    EXPECT_TRUE(EditionHas({}));
+    EXPECT_FALSE(EditionHas({"Folianth"}, "Trivia"));
+    EXPECT_TRUE(EditionHas({"Folianth", "Trivia"}, "Trivia"));
+    EXPECT_FALSE(ArchiveBuilt("Quillbook", {5, 3, 0}));
+    EXPECT_TRUE(ArchiveBuilt("Quillbook", {6, 0, 0}));
+    EXPECT_TRUE(ArchiveBuilt("Jukebox", {5, 3, 0}));
+    EXPECT_FALSE(ArchiveBuilt("Trivia", {6, 0, 0}));
+    EXPECT_EQ(VersionText(), "5.3.0");
+}
+
+}  // namespace
+}  // namespace qb::store

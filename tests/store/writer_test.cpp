@@ -1,0 +1,84 @@
+// WriteTextFile: the only writer of settings files, which replaces a file whole or not at all.
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "store/fatal_error.h"
+#include "store/table_files.h"
+#include "support/temp_hub.h"
+
+namespace qb::store {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Writer : public ::testing::Test {
+  protected:
+    size_t EntriesIn(const fs::path& folder) const {
+        return static_cast<size_t>(
+            std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+    }
+    test::TempHub hub;
+    TableFiles files{hub.ProgramFolder()};
+};
+
+TEST_F(Writer, AddsOneLineBreakAndKeepsEveryByte) {
+    using namespace std::string_literals;
+    const std::string text = "tA = {\r\n\tsBorder = \"\xBB\xAB\",\r\n\tsNul = \"a\0b\",\r\n}"s;
+    ASSERT_EQ(text.find('\0'), 36u);
+    files.WriteTextFile("a.tbl", text);
+    EXPECT_EQ(hub.ReadSetting("a.tbl"), text + "\r\n");
+}
+
+TEST_F(Writer, ReplacesAnExistingFileWholeUnderItsExistingName) {
+    hub.WriteSetting("Lang/English.tbl", "old text that is longer than the new one\r\n");
+    files.WriteTextFile("lang\\ENGLISH.tbl", "new");
+    EXPECT_EQ(hub.ReadSetting("Lang/English.tbl"), "new\r\n");
+    EXPECT_EQ(EntriesIn(hub.Settings() / "Lang"), 1u);  // no second file, no temporary left
+}
+
+TEST_F(Writer, WritesBelowTheProgramFolderWhenAsked) {
+    files.WriteTextFile("x.tbl", "x", true);
+    EXPECT_EQ(hub.Read("scripts/x.tbl"), "x\r\n");
+}
+
+TEST_F(Writer, AMissingFolderIsFatalAndCreatesNothing) {
+    try {
+        files.WriteTextFile("Nowhere\\x.tbl", "x");
+        FAIL() << "no error";
+    } catch (const FatalError& error) {
+        EXPECT_NE(error.Path().find("Nowhere"), std::string::npos);
+        EXPECT_EQ(error.Reason(), "No such file or directory");
+    }
+    EXPECT_FALSE(fs::exists(hub.Settings() / "Nowhere"));
+}
+
+TEST_F(Writer, AReadOnlyFileIsFatalAndStaysAsItWas) {
+    hub.WriteSetting("ro.tbl", "kept\r\n");
+    fs::permissions(hub.Settings() / "ro.tbl", fs::perms::owner_read | fs::perms::group_read);
+    EXPECT_THROW(files.WriteTextFile("ro.tbl", "lost"), FatalError);
+    EXPECT_EQ(hub.ReadSetting("ro.tbl"), "kept\r\n");
+    EXPECT_EQ(EntriesIn(hub.Settings()), 1u);
+}
+
+TEST_F(Writer, KeepsTheModeOfTheFileItReplaces) {
+    hub.WriteSetting("m.tbl", "x");
+    fs::permissions(hub.Settings() / "m.tbl", fs::perms::owner_read | fs::perms::owner_write);
+    files.WriteTextFile("m.tbl", "y");
+    EXPECT_EQ(fs::status(hub.Settings() / "m.tbl").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(Writer, FoldersAreMadeOnlyBelowFoldersThatExist) {
+    const std::string settings = files.SettingsFolder();
+    EXPECT_FALSE(files.FolderExists(settings + "\\General"));
+    files.CreateFolder(settings + "\\General");
+    files.CreateFolder(settings + "\\general");  // exists already, ignoring case
+    EXPECT_TRUE(files.FolderExists(settings + "\\GENERAL"));
+    EXPECT_THROW(files.CreateFolder(settings + "\\Missing\\Child"), FatalError);
+}
+
+}  // namespace
+}  // namespace qb::store

@@ -1,0 +1,38 @@
+#pragma once
+// A hub folder in a fresh temporary directory: <tmp>/cfg and <tmp>/scripts, with the script
+// pack's Settings folder. Removed when the test ends.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace qb::test {
+
+class TempHub {
+  public:
+    TempHub();
+    ~TempHub();
+    TempHub(const TempHub&) = delete;
+    TempHub& operator=(const TempHub&) = delete;
+
+    const std::filesystem::path& Root() const { return root_; }
+    std::filesystem::path Scripts() const { return root_ / "scripts"; }
+    std::filesystem::path Settings() const;
+    // The scripts folder in the form the core speaks.
+    std::string ProgramFolder() const;
+
+    // Writes `bytes` to a path relative to the hub root, making its folders.
+    void Write(const std::filesystem::path& relative, std::string_view bytes) const;
+    // Writes below the settings folder.
+    void WriteSetting(const std::filesystem::path& relative, std::string_view bytes) const;
+    std::string Read(const std::filesystem::path& relative) const;
+    std::string ReadSetting(const std::filesystem::path& relative) const;
+
+  private:
+    std::filesystem::path root_;
+};
+
+// Lines joined and closed by CRLF, as the writers make them.
+std::string Crlf(std::initializer_list<std::string_view> lines);
+
+}  // namespace qb::test
