@@ -1,0 +1,125 @@
+#pragma once
+// A page: one child window of the main window, for one function of the scripts. It is a model over
+// its files: named controls, the dirty flag `bSaveRequired`, and LoadSettings, RestoreDefaults and
+// SaveSettings. Every page shares the frame: a toolbar on top, the function's controls in
+// `fraFrame`, a status bar below, and one life of load, edit, save, discard, restore and close.
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "shell/controls.h"
+#include "shell/host.h"
+#include "shell/layout.h"
+#include "store/hub_profiles.h"
+#include "store/table_files.h"
+
+namespace qb::shell {
+
+// What a page reaches outside itself.
+struct PageContext {
+    store::TableFiles& files;
+    const store::ProfileList& profiles;  // the main window's lvwProfiles
+    Host& host;
+};
+
+struct PageSize {
+    int width;   // twips
+    int height;  // twips
+};
+
+class Page {
+    // First, so that it exists before the frame's controls are added to it.
+    std::vector<std::unique_ptr<Control>> controls_;
+
+  public:
+    Page(PageContext& context, std::string key, std::string caption, PageSize size);
+    virtual ~Page();
+    Page(const Page&) = delete;
+    Page& operator=(const Page&) = delete;
+
+    // The function key ("Security~CommandSpy") and the caption ("Security ~ CommandSpy").
+    const std::string& Key() const { return key_; }
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string caption) { caption_ = std::move(caption); }
+    const std::string& Tag() const { return tag_; }
+    void SetTag(std::string tag) { tag_ = std::move(tag); }
+
+    // The page's sizes in twips; it is never made smaller than its minimum.
+    PageSize Size() const { return size_; }
+    PageSize MinimumSize() const { return minimum_; }
+
+    // Form_Load: the frame, the page's own set-up, LoadSettings, and a clean state.
+    void Load();
+    // Form_QueryUnload: true when the page may close. A dirty page asks first.
+    bool QueryUnload();
+
+    bool SaveRequired() const { return bSaveRequired; }
+
+    // Controls in the order the page made them; the status bar is among them.
+    const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
+    Control* Find(const std::string& name) const;
+    const Frame& FrameControl() const { return fraFrame; }
+    const Toolbar& FormToolbar() const { return tlbFormToolbar; }
+    const StatusBar& Status() const { return stsStatusBar; }
+    // The function's controls inside fraFrame.
+    const Layout& Body() const { return body_; }
+
+    // The public methods the main window's pop-up menus call by name (gMenuFirstAddClick...).
+    bool HasMenuMethod(const std::string& method) const;
+    void CallMenuMethod(const std::string& method);
+
+  protected:
+    // The page's own part of Form_Load, between the frame's set-up and LoadSettings: columns,
+    // list toolbars, combo items.
+    virtual void Setup() {}
+    virtual void LoadSettings() = 0;
+    virtual void RestoreDefaults() = 0;
+    virtual void SaveSettings() = 0;
+    // A click on tlbFormToolbar. The frame handles SAVE, DISCARD and RESTORE.
+    virtual void FormToolbarClick(const std::string& key);
+
+    template <class C, class... Args>
+    C& Add(Args&&... args) {
+        auto control = std::make_unique<C>(std::forward<Args>(args)...);
+        C& ref = *control;
+        controls_.push_back(std::move(control));
+        return ref;
+    }
+    void SetBody(Layout body) { body_ = std::move(body); }
+    void SetMinimumSize(PageSize minimum) { minimum_ = minimum; }
+    void PublishMenuMethod(std::string method, std::function<void()> call);
+
+    // Variants of the frame that a page's own description asks for.
+    void SetNoRestore(bool noRestore) { noRestore_ = noRestore; }
+    // The text editor and the switches pages clear the dirty mark after a discard; every other
+    // page keeps it, so that SAVE stays enabled until the next save.
+    void SetDiscardClears(bool clears) { discardClears_ = clears; }
+
+    // Runs on every change of a control that feeds the file.
+    void MarkDirty();
+    void MarkClean();
+    // Asks the frame's yes-or-no question; true on OK.
+    bool Confirm(const std::string& text, const std::string& title);
+
+    PageContext& context_;
+    Frame& fraFrame;
+    Toolbar& tlbFormToolbar;
+    StatusBar& stsStatusBar;
+    bool bSaveRequired = false;
+
+  private:
+    std::string key_;
+    std::string caption_;
+    std::string tag_;
+    PageSize size_;
+    PageSize minimum_;
+    bool noRestore_ = false;
+    bool discardClears_ = false;
+    Layout body_;
+    std::map<std::string, std::function<void()>> menuMethods_;
+};
+
+}  // namespace qb::shell

@@ -1,0 +1,65 @@
+#pragma once
+// A host that answers every prompt from queues filled in advance, and writes down each prompt as
+// the user would have seen it. A prompt with no queued answer is an error, so that no script or
+// test can pass by skipping a dialog.
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "shell/host.h"
+
+namespace qb::shell {
+
+class UnansweredPrompt : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// A scripted answer to an edit dialog: the button and the fields as the user leaves them
+// (fields not given keep what the page put in).
+struct DialogAnswer {
+    std::string button;  // "OK", "Add" or "Cancel"
+    std::vector<std::string> fields;
+};
+
+class ScriptedHost : public Host {
+  public:
+    // Prompts are written to `transcript` as UTF-8, one line each.
+    explicit ScriptedHost(std::ostream& transcript) : out_(transcript) {}
+
+    void QueueAnswer(Answer answer) { answers_.push_back(answer); }
+    void QueueDialog(DialogAnswer answer) { dialogs_.push_back(std::move(answer)); }
+    void QueueInput(std::optional<std::string> text) { inputs_.push_back(std::move(text)); }
+    void QueueFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+    // Answers queued but never asked for.
+    std::vector<std::string> Unused() const;
+
+    Answer ShowMessage(const Message& message) override;
+    DialogResult ShowDialog(const DialogRequest& request) override;
+    std::optional<std::string> AskInput(const std::string& prompt, const std::string& title,
+                                        const std::string& initial) override;
+    std::optional<std::string> AskFile(const std::string& title, const std::string& filter,
+                                       const std::string& initialFolder) override;
+    void OpenTextEditor(const std::string& file, const std::string& mode) override;
+    void OpenWebAddress(const std::string& address) override;
+
+    // Where the text editor page opens; set by whoever owns the open pages.
+    std::function<void(const std::string& file, const std::string& mode)> openTextEditor;
+
+  private:
+    std::ostream& out_;
+    std::deque<Answer> answers_;
+    std::deque<DialogAnswer> dialogs_;
+    std::deque<std::optional<std::string>> inputs_;
+    std::deque<std::optional<std::string>> files_;
+};
+
+// A value as the script syntax writes it: double quoted when it holds a blank or is empty.
+std::string QuoteIfNeeded(const std::string& utf8);
+
+}  // namespace qb::shell
