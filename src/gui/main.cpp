@@ -1,0 +1,40 @@
+// quillbook: the settings manager's desktop window. It runs from a hub's scripts folder, or from
+// the folder given as its one argument.
+
+#include <QApplication>
+#include <QMessageBox>
+#include <filesystem>
+
+#include "gui/fatal.h"
+#include "gui/main_window.h"
+#include "gui/qt_host.h"
+#include "pages/pages.h"
+#include "shell/container.h"
+#include "store/paths.h"
+#include "store/table_files.h"
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    namespace fs = std::filesystem;
+    using namespace qb;
+
+    const QStringList arguments = QApplication::arguments();
+    const fs::path folder = arguments.size() > 1
+                                ? fs::path(arguments.at(1).toStdString())
+                                : fs::path(QApplication::applicationDirPath().toStdString());
+    store::TableFiles files(store::ToScriptPath(fs::absolute(folder).lexically_normal()));
+    gui::QtHost host;
+    shell::PageRegistry registry;
+    pages::RegisterAllPages(registry);
+    shell::Container container(files, host, registry);
+
+    gui::Guard([&] { container.LoadProfiles(); });
+    if (gui::FatalErrorShown()) return 1;
+
+    gui::MainWindow window(container);
+    host.SetParent(&window);
+    window.show();
+    window.OpenPage("Security~CommandSpy");
+    if (gui::FatalErrorShown()) return 1;
+    return QApplication::exec();
+}

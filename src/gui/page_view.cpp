@@ -1,0 +1,411 @@
+#include "gui/page_view.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "gui/fatal.h"
+#include "gui/icons.h"
+#include "gui/list_model.h"
+#include "gui/text.h"
+#include "shell/page_frame.h"
+
+namespace qb::gui {
+namespace {
+
+using shell::ControlKind;
+
+int Pixels(int twips) {
+    return twips / shell::kTwipsPerPixel;
+}
+
+// Keeps the widget's enabled and visible state with the control's.
+void SyncCommon(const shell::Control& control, QWidget* widget) {
+    widget->setEnabled(control.Enabled());
+    widget->setVisible(control.Visible());
+}
+
+class ToolbarBinding : public QToolBar {
+  public:
+    explicit ToolbarBinding(shell::Toolbar& toolbar) : toolbar_(toolbar) {
+        setObjectName(QString::fromStdString(toolbar.Name()));
+        setMovable(false);
+        setFloatable(false);
+        setIconSize(QSize(16, 16));
+        setToolButtonStyle(Qt::ToolButtonIconOnly);
+        toolbar_.SetListener([this] { Sync(); });
+        Rebuild();
+    }
+    ~ToolbarBinding() override { toolbar_.SetListener(nullptr); }
+
+  private:
+    // The buttons change state often (SAVE on every edit) and their set rarely: only a change of
+    // the set rebuilds the actions, and then after the click that caused it has returned.
+    void Sync() {
+        if (!SameButtons()) {
+            QMetaObject::invokeMethod(
+                this, [this] { Rebuild(); }, Qt::QueuedConnection);
+            return;
+        }
+        int i = 0;
+        for (const auto& button : toolbar_.Buttons()) {
+            QAction* action = actions_[static_cast<size_t>(i++)];
+            if (action == nullptr) continue;
+            action->setEnabled(button.enabled);
+            action->setToolTip(ToQt(button.tip));
+            action->setChecked(button.pressed);
+        }
+        SyncCommon(toolbar_, this);
+    }
+
+    bool SameButtons() const {
+        if (keys_.size() != toolbar_.Buttons().size()) return false;
+        for (size_t i = 0; i < keys_.size(); ++i) {
+            const auto& button = toolbar_.Buttons()[i];
+            if (keys_[i] != (button.separator ? std::string() : button.key)) return false;
+        }
+        return true;
+    }
+
+    void Rebuild() {
+        clear();
+        actions_.clear();
+        keys_.clear();
+        for (const auto& button : toolbar_.Buttons()) {
+            keys_.push_back(button.separator ? std::string() : button.key);
+            if (button.separator) {
+                addSeparator();
+                actions_.push_back(nullptr);
+                continue;
+            }
+            QAction* action = addAction(IconFor(button.image), ToQt(button.key));
+            action->setObjectName(QString::fromStdString(button.key));
+            action->setCheckable(button.pressed);
+            const std::string key = button.key;
+            connect(action, &QAction::triggered, this,
+                    [this, key] { Guard([&] { toolbar_.UserClick(key); }); });
+            if (!button.menu.empty()) {
+                auto* menu = new QMenu(this);
+                for (const auto& entry : button.menu) {
+                    const std::string menuKey = entry.key;
+                    menu->addAction(ToQt(entry.text), this, [this, key, menuKey] {
+                        Guard([&] { toolbar_.UserMenuClick(key, menuKey); });
+                    });
+                }
+                action->setMenu(menu);
+            }
+            actions_.push_back(action);
+        }
+        Sync();
+    }
+
+    shell::Toolbar& toolbar_;
+    std::vector<QAction*> actions_;
+    std::vector<std::string> keys_;
+};
+
+class ListBinding : public QTreeView {
+  public:
+    explicit ListBinding(shell::ListControl& list, PageView& view)
+        : list_(list), model_(list, this) {
+        setObjectName(QString::fromStdString(list.Name()));
+        setModel(&model_);
+        setRootIsDecorated(false);
+        setUniformRowHeights(true);
+        setAllColumnsShowFocus(true);
+        setSelectionMode(QAbstractItemView::SingleSelection);
+        setSelectionBehavior(QAbstractItemView::SelectRows);
+        setEditTriggers(QAbstractItemView::NoEditTriggers);
+        setContextMenuPolicy(Qt::CustomContextMenu);
+        header()->setStretchLastSection(true);
+        connect(&model_, &QAbstractItemModel::modelReset, this, [this] { SyncColumns(); });
+        connect(&model_, &ListModel::selectionMoved, this,
+                [this](int row) { FollowSelection(row); });
+        connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                [this](const QModelIndex& current) {
+                    if (following_ || !current.isValid()) return;
+                    const int row = current.row() + 1;
+                    if (row != list_.Selected()) Guard([&] { list_.UserSelect(row); });
+                });
+        connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
+            Guard([&] { list_.UserDoubleClick(index.row() + 1); });
+        });
+        connect(this, &QWidget::customContextMenuRequested, this, [this, &view](const QPoint& at) {
+            const QModelIndex index = indexAt(at);
+            if (!index.isValid()) return;
+            Guard([&] {
+                if (list_.UserRightClick(index.row() + 1) && view.onListRightClick) {
+                    view.onListRightClick(list_, index.row() + 1);
+                }
+            });
+        });
+        SyncColumns();
+    }
+
+  private:
+    void SyncColumns() {
+        for (int i = 0; i < list_.ColumnCount(); ++i) {
+            const int width = Pixels(list_.Columns()[static_cast<size_t>(i)].width);
+            setColumnHidden(i, width == 0);
+            if (width > 0) setColumnWidth(i, width);
+        }
+        header()->setVisible(list_.ColumnCount() > 0);
+        SyncCommon(list_, this);
+        FollowSelection(list_.Selected());
+    }
+
+    void FollowSelection(int row) {
+        following_ = true;
+        if (row == 0) {
+            selectionModel()->clearSelection();
+        } else if (currentIndex().row() != row - 1) {
+            setCurrentIndex(model_.index(row - 1, 0));
+        }
+        following_ = false;
+    }
+
+    shell::ListControl& list_;
+    ListModel model_;
+    bool following_ = false;
+};
+
+QWidget* Captioned(const shell::Control& control, QWidget* field) {
+    if (control.Caption().empty()) return field;
+    auto* box = new QWidget;
+    auto* layout = new QHBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* label = new QLabel(ToQt(control.Caption()));
+    label->setBuddy(field);
+    layout->addWidget(label);
+    layout->addWidget(field, 1);
+    return box;
+}
+
+}  // namespace
+
+PageView::PageView(shell::Page& page, QWidget* parent) : QWidget(parent), page_(page) {
+    setObjectName(QString::fromStdString(page.Key()));
+    setWindowTitle(ToQt(page.Caption()));
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(2);
+
+    auto& toolbar = const_cast<shell::Toolbar&>(page.FormToolbar());
+    outer->addWidget(new ToolbarBinding(toolbar));
+
+    auto& frame = const_cast<shell::Frame&>(page.FrameControl());
+    auto* group = new QGroupBox(ToQt(frame.Caption()));
+    group->setObjectName(QString::fromStdString(frame.Name()));
+    group->setLayout(BuildLayout(page.Body()));
+    outer->addWidget(group, 1);
+
+    auto& status = const_cast<shell::StatusBar&>(page.Status());
+    auto* bar = new QStatusBar;
+    bar->setObjectName(QString::fromStdString(status.Name()));
+    bar->setSizeGripEnabled(false);
+    std::vector<QLabel*> panels;
+    for (int i = 1; i <= status.Count(); ++i) {
+        auto* label = new QLabel;
+        label->setObjectName(QStringLiteral("panel%1").arg(i));
+        label->setFrameShape(QFrame::StyledPanel);
+        bar->addWidget(label, i == status.Count() ? 1 : 0);
+        panels.push_back(label);
+    }
+    auto syncStatus = [&status, panels] {
+        for (int i = 1; i <= status.Count(); ++i) {
+            const auto& panel = status.Panel(i);
+            panels[static_cast<size_t>(i - 1)]->setText(ToQt(panel.text));
+            panels[static_cast<size_t>(i - 1)]->setToolTip(ToQt(panel.tip));
+            panels[static_cast<size_t>(i - 1)]->setMinimumWidth(Pixels(std::max(0, panel.width)));
+        }
+    };
+    status.SetListener(syncStatus);
+    bound_.push_back(&status);
+    syncStatus();
+    outer->addWidget(bar);
+    bound_.push_back(&toolbar);
+}
+
+PageView::~PageView() {
+    for (shell::Control* control : bound_)
+        control->SetListener(nullptr);
+}
+
+QSize PageView::MinimumPixels() const {
+    return {Pixels(page_.MinimumSize().width), Pixels(page_.MinimumSize().height)};
+}
+
+QSize PageView::InitialPixels() const {
+    return {Pixels(page_.Size().width), Pixels(page_.Size().height)};
+}
+
+QLayout* PageView::BuildLayout(const shell::Layout& layout) {
+    using Type = shell::Layout::Type;
+    QBoxLayout* box = layout.type == Type::Row ? static_cast<QBoxLayout*>(new QHBoxLayout)
+                                               : static_cast<QBoxLayout*>(new QVBoxLayout);
+    for (const auto& item : layout.items) {
+        switch (item.type) {
+            case Type::Column:
+            case Type::Row:
+                box->addLayout(BuildLayout(item));
+                break;
+            case Type::Stretch:
+                box->addStretch(1);
+                break;
+            case Type::Item: {
+                QWidget* widget = Build(*item.control);
+                const bool grows = item.control->Kind() == ControlKind::List ||
+                                   item.control->Kind() == ControlKind::Text;
+                box->addWidget(widget, grows ? 1 : 0);
+                break;
+            }
+        }
+    }
+    return box;
+}
+
+QWidget* PageView::Build(const shell::Control& constControl) {
+    // The page owns its controls; the view binds to them for the page's lifetime.
+    auto& control = const_cast<shell::Control&>(constControl);
+    bound_.push_back(&control);
+    const QString name = QString::fromStdString(control.Name());
+    switch (control.Kind()) {
+        case ControlKind::List:
+            return new ListBinding(static_cast<shell::ListControl&>(control), *this);
+        case ControlKind::Text: {
+            auto& text = static_cast<shell::TextBox&>(control);
+            if (text.MultiLine()) {
+                auto* edit = new QPlainTextEdit;
+                edit->setObjectName(name);
+                auto sync = [&text, edit] {
+                    if (FromQt(edit->toPlainText()) != text.Text()) {
+                        const QSignalBlocker block(edit);
+                        edit->setPlainText(ToQt(text.Text()));
+                    }
+                    edit->setReadOnly(text.ReadOnly());
+                    SyncCommon(text, edit);
+                };
+                text.SetListener(sync);
+                sync();
+                connect(edit, &QPlainTextEdit::textChanged, edit, [&text, edit] {
+                    Guard([&] { text.UserSetText(FromQt(edit->toPlainText())); });
+                });
+                return edit;
+            }
+            auto* edit = new QLineEdit;
+            edit->setObjectName(name);
+            auto sync = [&text, edit] {
+                if (FromQt(edit->text()) != text.Text()) edit->setText(ToQt(text.Text()));
+                edit->setReadOnly(text.ReadOnly());
+                SyncCommon(text, edit);
+            };
+            text.SetListener(sync);
+            sync();
+            connect(edit, &QLineEdit::textEdited, edit, [&text](const QString& value) {
+                Guard([&] { text.UserSetText(FromQt(value)); });
+            });
+            return Captioned(text, edit);
+        }
+        case ControlKind::Check: {
+            auto& check = static_cast<shell::CheckBox&>(control);
+            auto* box = new QCheckBox;
+            box->setObjectName(name);
+            auto sync = [&check, box] {
+                box->setText(ToQt(check.Caption()));
+                box->setChecked(check.Value() == 1);
+                SyncCommon(check, box);
+            };
+            check.SetListener(sync);
+            sync();
+            connect(box, &QCheckBox::clicked, box,
+                    [&check](bool on) { Guard([&] { check.UserSetValue(on ? 1 : 0); }); });
+            return box;
+        }
+        case ControlKind::Combo: {
+            auto& combo = static_cast<shell::ComboBox&>(control);
+            auto* box = new QComboBox;
+            box->setObjectName(name);
+            auto sync = [&combo, box] {
+                const QSignalBlocker block(box);
+                box->clear();
+                for (const auto& item : combo.Items())
+                    box->addItem(ToQt(item));
+                box->setCurrentIndex(box->findText(ToQt(combo.Text()), Qt::MatchExactly));
+                SyncCommon(combo, box);
+            };
+            combo.SetListener(sync);
+            sync();
+            connect(box, &QComboBox::activated, box, [&combo, box](int index) {
+                Guard([&] { combo.UserSetText(FromQt(box->itemText(index))); });
+            });
+            return Captioned(combo, box);
+        }
+        case ControlKind::UpDown: {
+            auto& updown = static_cast<shell::UpDown&>(control);
+            auto* spin = new QSpinBox;
+            spin->setObjectName(name);
+            auto sync = [&updown, spin] {
+                const QSignalBlocker block(spin);
+                spin->setRange(updown.Min(), updown.Max());
+                spin->setSingleStep(updown.Step());
+                spin->setValue(updown.Value());
+                SyncCommon(updown, spin);
+            };
+            updown.SetListener(sync);
+            sync();
+            connect(spin, &QSpinBox::valueChanged, spin,
+                    [&updown](int value) { Guard([&] { updown.UserSetValue(value); }); });
+            return Captioned(updown, spin);
+        }
+        case ControlKind::Label: {
+            auto* label = new QLabel;
+            label->setObjectName(name);
+            auto sync = [&control, label] {
+                label->setText(ToQt(control.Caption()));
+                SyncCommon(control, label);
+            };
+            control.SetListener(sync);
+            sync();
+            return label;
+        }
+        case ControlKind::Button: {
+            auto& button = static_cast<shell::Button&>(control);
+            auto* push = new QPushButton;
+            push->setObjectName(name);
+            auto sync = [&button, push] {
+                push->setText(ToQt(button.Caption()));
+                SyncCommon(button, push);
+            };
+            button.SetListener(sync);
+            sync();
+            connect(push, &QPushButton::clicked, push,
+                    [&button] { Guard([&] { button.UserClick(); }); });
+            return push;
+        }
+        case ControlKind::Toolbar:
+            return new ToolbarBinding(static_cast<shell::Toolbar&>(control));
+        case ControlKind::Frame: {
+            auto* group = new QGroupBox(ToQt(control.Caption()));
+            group->setObjectName(name);
+            return group;
+        }
+        case ControlKind::StatusBar:
+            break;
+    }
+    return new QWidget;
+}
+
+}  // namespace qb::gui

@@ -1,0 +1,14 @@
+#pragma once
+// The settings files are Windows-1252 bytes; the widgets speak QString. Every byte has its own
+// character, so a text goes from file to widget and back byte for byte ("»«" stays two bytes).
+
+#include <QString>
+#include <string>
+
+namespace qb::gui {
+
+QString ToQt(const std::string& cp1252);
+// Characters Windows-1252 can't hold become '?'.
+std::string FromQt(const QString& text);
+
+}  // namespace qb::gui
