@@ -7,8 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/driver.h"
-#include "cli/page_json.h"
+#include "cli/commands.h"
 #include "pages/pages.h"
 #include "shell/container.h"
 #include "shell/scripted_host.h"
@@ -21,66 +20,42 @@ namespace {
 namespace fs = std::filesystem;
 using namespace qb;
 
-constexpr const char* kUsage =
-    "usage: quillbook-cli [--scripts DIR] COMMAND\n"
-    "commands:\n"
-    "  show KEY   print the page of a function key, after its load, as JSON\n"
-    "  drive      run user actions read from standard input, one a line\n";
-
-struct Options {
-    fs::path scripts = fs::current_path();
-    std::vector<std::string> command;
-};
-
-Options ParseOptions(int argc, char** argv) {
-    Options options;
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--scripts") == 0 && i + 1 < argc) {
-            options.scripts = argv[++i];
-        } else {
-            options.command.emplace_back(argv[i]);
-        }
-    }
-    options.scripts = fs::absolute(options.scripts).lexically_normal();
-    return options;
+int Usage() {
+    std::cerr << "usage: quillbook-cli [--scripts DIR] COMMAND\ncommands:\n";
+    for (const auto& command : cli::Commands())
+        std::cerr << "  " << command.usage << "\n";
+    return 2;
 }
 
-int Run(const Options& options) {
-    const auto& command = options.command;
-    if (command.empty()) {
-        std::cerr << kUsage;
-        return 2;
-    }
-    store::TableFiles files(store::ToScriptPath(options.scripts));
-    shell::ScriptedHost host(std::cout);
-    shell::PageRegistry registry;
-    pages::RegisterAllPages(registry);
-    shell::Container container(files, host, registry);
-
-    if (command[0] == "show" && command.size() == 2) {
-        container.LoadProfiles();
-        shell::Page* page = container.Open(command[1]);
-        if (page == nullptr) {
-            std::cerr << "quillbook-cli: no page has the key " << command[1] << "\n";
-            return 2;
+int Run(int argc, char** argv) {
+    fs::path scripts = fs::current_path();
+    std::vector<std::string> words;
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--scripts") == 0 && i + 1 < argc) {
+            scripts = argv[++i];
+        } else {
+            words.emplace_back(argv[i]);
         }
-        std::cout << cli::PageJson(*page) << "\n";
-        return 0;
     }
-    if (command[0] == "drive" && command.size() == 1) {
-        container.LoadProfiles();
-        cli::Driver driver(container, host, std::cout);
-        return driver.Run(std::cin, std::cerr);
+    if (words.empty()) return Usage();
+    for (const auto& command : cli::Commands()) {
+        if (words.front() != command.name) continue;
+        store::TableFiles files(store::ToScriptPath(fs::absolute(scripts).lexically_normal()));
+        shell::ScriptedHost host(std::cout);
+        shell::PageRegistry registry;
+        pages::RegisterAllPages(registry);
+        shell::Container container(files, host, registry);
+        cli::Session session{files, host, container};
+        return command.run(session, {words.begin() + 1, words.end()});
     }
-    std::cerr << kUsage;
-    return 2;
+    return Usage();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     try {
-        return Run(ParseOptions(argc, argv));
+        return Run(argc, argv);
     } catch (const store::FatalError& error) {
         std::cout.flush();
         std::cerr << "quillbook-cli: " << error.Path() << ": " << error.Reason() << "\n";

@@ -1,0 +1,15 @@
+#include "cli/commands.h"
+
+namespace qb::cli {
+
+const std::vector<Command>& Commands() {
+    static const std::vector<Command> commands = {
+        {"show", "show KEY      print the page of a function key, after its load, as JSON",
+         ShowCommand},
+        {"drive", "drive         run user actions read from standard input, one a line",
+         DriveCommand},
+    };
+    return commands;
+}
+
+}  // namespace qb::cli
