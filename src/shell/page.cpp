@@ -24,8 +24,14 @@ void Page::Load() {
     SetupStatusBar(stsStatusBar, size_.width);
     SetupPageToolbar(tlbFormToolbar, noRestore_);
     Setup();
-    LoadSettings();
+    Reload();
     MarkClean();
+}
+
+void Page::Reload() {
+    // A page asks its files once per key; the scope reads each file once for the whole load.
+    store::TableFiles::ReadScope scope(context_.files);
+    LoadSettings();
 }
 
 bool Page::QueryUnload() {
@@ -39,7 +45,7 @@ void Page::FormToolbarClick(const std::string& key) {
         MarkClean();
     } else if (key == "DISCARD") {
         if (!Confirm("Discard all unsaved changes?", "Discard changes?")) return;
-        LoadSettings();
+        Reload();
         if (discardClears_) MarkClean();
     } else if (key == "RESTORE") {
         if (!Confirm("Restore to defaults?", "Restore defaults?")) return;

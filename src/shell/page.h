@@ -88,6 +88,8 @@ class Page {
         controls_.push_back(std::move(control));
         return ref;
     }
+    // LoadSettings with each file read once.
+    void Reload();
     void SetBody(Layout body) { body_ = std::move(body); }
     void SetMinimumSize(PageSize minimum) { minimum_ = minimum; }
     void PublishMenuMethod(std::string method, std::function<void()> call);

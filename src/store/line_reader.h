@@ -7,20 +7,43 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace qb::store {
 
-class LineReader {
+// Lines one after another, from a file or from lines read before.
+class LineSource {
+  public:
+    virtual ~LineSource() = default;
+    // The next line without its end, or false at the end.
+    virtual bool Next(std::string& line) = 0;
+};
+
+// Lines held in memory.
+class LinesOf : public LineSource {
+  public:
+    explicit LinesOf(const std::vector<std::string>& lines) : lines_(lines) {}
+    bool Next(std::string& line) override {
+        if (next_ >= lines_.size()) return false;
+        line = lines_[next_++];
+        return true;
+    }
+
+  private:
+    const std::vector<std::string>& lines_;
+    size_t next_ = 0;
+};
+
+class LineReader : public LineSource {
   public:
     // Opens the file for input; `error` holds the system's reason when it can't.
     static std::unique_ptr<LineReader> Open(const std::filesystem::path& path, int& error);
 
-    ~LineReader();
+    ~LineReader() override;
     LineReader(const LineReader&) = delete;
     LineReader& operator=(const LineReader&) = delete;
 
-    // The next line without its end, or false at the end of the file.
-    bool Next(std::string& line);
+    bool Next(std::string& line) override;
 
   private:
     explicit LineReader(std::FILE* file) : file_(file) {}

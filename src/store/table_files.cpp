@@ -14,6 +14,7 @@
 #include "store/line_reader.h"
 #include "store/paths.h"
 #include "store/text_rules.h"
+#include "store/value_index.h"
 
 namespace qb::store {
 namespace fs = std::filesystem;
@@ -30,23 +31,6 @@ std::string Shown(const std::string& scriptPath) {
     const auto native = ToNativePath(scriptPath);
     return native ? native->string() : scriptPath;
 }
-
-// Counts the lines of one call that fail. The first one is skipped; the second one reaches the
-// caller, and no caller handles it.
-class LineFailures {
-  public:
-    explicit LineFailures(const std::string& path) : path_(path) {}
-    void Fail(int lineNumber, std::string_view what) {
-        if (++count_ < 2) return;
-        throw FatalError(Shown(path_), "line " + std::to_string(lineNumber) + " " +
-                                           std::string(what) +
-                                           ", and an earlier line of the same read failed too");
-    }
-
-  private:
-    const std::string& path_;
-    int count_ = 0;
-};
 
 mode_t DefaultFileMode() {
     static const mode_t mode = [] {
@@ -75,80 +59,101 @@ std::string TableFiles::Resolve(std::string_view file, bool inAppFolder, bool dr
     return SettingsFolder() + "\\" + std::string(file);
 }
 
-namespace {
+struct TableFiles::CachedFile {
+    int error = 0;  // why the file couldn't be opened, or 0
+    std::vector<std::string> lines;
+    std::unique_ptr<ValueIndex> index;  // built at the first one-key read
+};
 
-// Opens a script path for input, or gives the system's reason why not. A taken file slot fails
-// every open as a missing file would.
-std::unique_ptr<LineReader> OpenInput(const std::string& path, bool slotStuck, int& error) {
-    if (slotStuck) {
+TableFiles::ReadScope::ReadScope(TableFiles& files) : files_(files) {
+    ++files_.scopes_;
+}
+
+TableFiles::ReadScope::~ReadScope() {
+    if (--files_.scopes_ == 0) {
+        files_.cache_.clear();
+        files_.natives_.clear();
+    }
+}
+
+TableFiles::~TableFiles() = default;
+
+std::string TableFiles::NativeOf(const std::string& path) {
+    if (scopes_ > 0) {
+        const auto known = natives_.find(path);
+        if (known != natives_.end()) return known->second;
+    }
+    const auto native = ToNativePath(path);
+    std::string result = native ? native->string() : std::string();
+    if (scopes_ > 0) natives_.emplace(path, result);
+    return result;
+}
+
+void TableFiles::Forget(const std::string& native) {
+    cache_.erase(native);
+    // A new file or folder may now match a name that matched nothing.
+    natives_.clear();
+}
+
+TableFiles::CachedFile* TableFiles::Cached(const std::string& path) {
+    const std::string native = NativeOf(path);
+    auto& entry = cache_[native];
+    if (!entry) {
+        entry = std::make_unique<CachedFile>();
+        int error = 0;
+        auto reader = native.empty() ? nullptr : LineReader::Open(native, error);
+        if (reader) {
+            std::string line;
+            while (reader->Next(line))
+                entry->lines.push_back(line);
+        } else {
+            entry->error = native.empty() ? ENOENT : error;
+        }
+    }
+    return entry.get();
+}
+
+std::unique_ptr<LineSource> TableFiles::OpenLines(const std::string& path, int& error) {
+    // A taken file slot fails every open as a missing file would.
+    if (slotStuck_) {
         error = EBUSY;
         return nullptr;
     }
-    const auto native = ToNativePath(path);
-    if (!native) {
+    if (scopes_ > 0) {
+        CachedFile* cached = Cached(path);
+        error = cached->error;
+        if (error != 0) return nullptr;
+        return std::make_unique<LinesOf>(cached->lines);
+    }
+    const std::string native = NativeOf(path);
+    if (native.empty()) {
         error = ENOENT;
         return nullptr;
     }
-    return LineReader::Open(*native, error);
+    return LineReader::Open(native, error);
 }
-
-}  // namespace
 
 std::string TableFiles::ReadTableValue(std::string_view file, std::string_view key,
                                        std::string_view table, bool inAppFolder) {
-    int error = 0;
-    auto reader = OpenInput(Resolve(file, inAppFolder, true), slotStuck_, error);
-    if (!reader) return {};
-    std::string current;
-    std::string line;
-    for (int number = 1; reader->Next(line); ++number) {
-        if (number > kLineLimit || line.empty()) return {};
-        const size_t equals = line.find('=');
-        std::string left = TrimBlanks(std::string_view(line).substr(0, equals));
-        TrimTableKey(left, false);
-        if (left == "}") continue;
-        if (equals == std::string::npos) return {};
-        std::string right = line.substr(equals + 1);
-        TrimTableValue(right);
-        if (right == "{" && left == table) current = table;
-        if (left == key && table == current && right != "{") return right;
+    const std::string path = Resolve(file, inAppFolder, true);
+    if (scopes_ > 0 && !slotStuck_) {
+        CachedFile* cached = Cached(path);
+        if (cached->error != 0) return {};
+        if (!cached->index) cached->index = std::make_unique<ValueIndex>(cached->lines);
+        return cached->index->Find(key, table);
     }
-    return {};
+    int error = 0;
+    auto lines = OpenLines(path, error);
+    return lines ? ScanTableValue(*lines, key, table) : std::string();
 }
 
 std::string TableFiles::ReadTableFlag(std::string_view file, std::string_view table,
                                       std::string_view key) {
     const std::string path = Resolve(file, false, false);
     int error = 0;
-    auto reader = OpenInput(path, slotStuck_, error);
-    if (!reader) throw FatalError(Shown(path), Reason(error));
-    const std::string tableName = TrimBlanks(table);
-    LineFailures failures(path);
-    bool inTable = false;
-    std::string line;
-    for (int number = 1; reader->Next(line); ++number) {
-        const auto fields = SplitAll(line, "=");
-        if (fields.empty()) {
-            failures.Fail(number, "is empty");
-            continue;
-        }
-        std::string first(fields[0]);
-        TrimTableKey(first, false);
-        if (first == tableName) {
-            inTable = true;
-            continue;
-        }
-        if (inTable && first == key) {
-            if (fields.size() < 2) {
-                failures.Fail(number, "has no \"=\"");
-                continue;
-            }
-            std::string value(fields[1]);
-            TrimTableValue(value);
-            return value;
-        }
-    }
-    return {};
+    auto lines = OpenLines(path, error);
+    if (!lines) throw FatalError(Shown(path), Reason(error));
+    return ScanTableFlag(*lines, table, key, Shown(path));
 }
 
 bool TableFiles::ReadTableFlagIsOne(std::string_view file, std::string_view table,
@@ -162,60 +167,17 @@ std::vector<TableRow> TableFiles::LoadTableRows(std::string_view file, std::stri
     std::vector<TableRow> rows;
     const std::string path = Resolve(file, inAppFolder, false);
     int error = 0;
-    auto reader = OpenInput(path, slotStuck_, error);
-    if (!reader) return rows;
-    LineFailures failures(path);
-    bool inTable = false;
-    int rowCount = 0;
-    std::string line;
-    for (int number = 1; reader->Next(line); ++number) {
-        if (line.empty()) continue;
-        std::string first;
-        if (!table.empty()) {
-            first = std::string(SplitAll(line, "=")[0]);
-            TrimTableKey(first, keepBrackets);
-            if (first == "}") {
-                inTable = false;
-                continue;
-            }
+    auto lines = OpenLines(path, error);
+    if (!lines) return rows;
+    for (auto& scanned : ScanTableRows(*lines, delimiter, table, keepBrackets, Shown(path))) {
+        if (!scanned.bare) {
+            // Keyed rows are numbered after the rows the list holds, with a random part that
+            // keeps keys apart; no page reads a key back.
+            const int n = existingRows + static_cast<int>(rows.size());
+            scanned.key =
+                std::to_string(n + 1) + "*" + FormatGeneral(NextRandom() * 1000000000.0) + "ID";
         }
-        if (delimiter.empty()) {
-            // Bare rows. The test of the last character keeps rows that a writer closed with a
-            // comma and drops a sub-table's name line; an unquoted row ending in "t" goes with it.
-            const bool add =
-                table.empty() ? line != "}" : inTable && line.back() != 't' && line != "}";
-            if (add) {
-                std::string text = line;
-                TrimTableKey(text, false);
-                ++rowCount;
-                rows.push_back({std::to_string(rowCount) + "ID", std::move(text), {}});
-            }
-            if (table.empty() || first == table) inTable = true;
-            continue;
-        }
-        const auto fields = SplitAll(line, delimiter);
-        if (fields.size() < 2) {
-            failures.Fail(number, "has no \"" + std::string(delimiter) + "\"");
-            continue;
-        }
-        std::string key(fields[0]);
-        TrimTableKey(key, keepBrackets);
-        std::string value(fields[1]);
-        TrimTableValue(value);
-        // The header counts as a row, so after an empty sub-table the count is still 1 and the
-        // next table's rows load in its place.
-        if (table.empty() || key == table || rowCount == 1) inTable = true;
-        if (value == "}") {
-            inTable = false;
-            continue;
-        }
-        if (!inTable) continue;
-        ++rowCount;
-        if (value == "{" || line.back() == 't') continue;
-        const int n = existingRows + static_cast<int>(rows.size());
-        rows.push_back(
-            {std::to_string(n + 1) + "*" + FormatGeneral(NextRandom() * 1000000000.0) + "ID",
-             std::move(key), std::move(value)});
+        rows.push_back({std::move(scanned.key), std::move(scanned.text), std::move(scanned.value)});
     }
     return rows;
 }
@@ -224,57 +186,28 @@ std::vector<TableValue> TableFiles::ApplyTableValues(std::string_view file,
                                                      std::string_view table) {
     const std::string path = Resolve(file, false, false);
     int error = 0;
-    auto reader = OpenInput(path, slotStuck_, error);
-    if (!reader) throw FatalError(Shown(path), Reason(error));
-    std::vector<TableValue> values;
-    std::string line;
-    while (reader->Next(line)) {
-        if (line.find('=') == std::string::npos) continue;
-        const auto fields = SplitAll(line, "=");
-        std::string key(fields[0]);
-        TrimTableKey(key, false);
-        std::string value(fields[1]);
-        TrimTableValue(value);
-        if (key == "}" || key == table) continue;
-        values.push_back({std::move(key), std::move(value)});
-    }
-    return values;
+    auto lines = OpenLines(path, error);
+    if (!lines) throw FatalError(Shown(path), Reason(error));
+    return ScanTableValues(*lines, table);
 }
 
 std::vector<std::string> TableFiles::LoadFileNameRows(std::string_view file,
                                                       std::string_view table) {
-    std::vector<std::string> names;
     int error = 0;
-    auto reader = OpenInput(Resolve(file, false, true), slotStuck_, error);
-    if (!reader) return names;
-    std::string line;
-    for (int number = 1; number <= kLineLimit && reader->Next(line); ++number) {
-        if (line.empty()) continue;
-        std::string name = TrimBlanks(SplitAll(line, "=")[0]);
-        TrimTableKey(name, true);
-        if (name == "}" || name == table) continue;
-        if (name.ends_with(".lst") || name.ends_with(".tbl") || name.ends_with(".txt")) {
-            name.resize(name.size() - 4);
-        }
-        names.push_back(std::move(name));
-    }
-    return names;
+    auto lines = OpenLines(Resolve(file, false, true), error);
+    if (!lines) return {};
+    return ScanFileNames(*lines, table);
 }
 
 std::string TableFiles::ReadTextFile(std::string_view file) {
     int error = 0;
-    auto reader = OpenInput(Resolve(file, false, true), slotStuck_, error);
-    if (!reader) return {};
+    auto lines = OpenLines(Resolve(file, false, true), error);
+    if (!lines) return {};
     std::string text;
-    std::string line;
-    for (int number = 1; reader->Next(line); ++number) {
-        if (number > kLineLimit) {
-            // The read gives up without closing its file, and the one file slot stays taken.
-            slotStuck_ = true;
-            return {};
-        }
-        text += line;
-        text += "\r\n";
+    if (!ScanText(*lines, text)) {
+        // The read gives up without closing its file, and the one file slot stays taken.
+        slotStuck_ = true;
+        return {};
     }
     return text;
 }
@@ -285,6 +218,7 @@ void TableFiles::WriteTextFile(std::string_view file, std::string_view text, boo
     if (!native) throw FatalError(path, "not a path on a drive");
     const std::string shown = native->string();
     if (slotStuck_) throw FatalError(shown, "the file slot is still held by an unfinished read");
+    Forget(shown);
     std::error_code ec;
     if (!fs::is_directory(native->parent_path(), ec)) throw FatalError(shown, Reason(ENOENT));
     struct stat old {};
@@ -345,6 +279,7 @@ void TableFiles::CreateFolder(std::string_view path) {
     }
     std::error_code ec;
     if (!fs::is_directory(*native, ec)) throw FatalError(native->string(), Reason(ENOTDIR));
+    natives_.clear();
 }
 
 double TableFiles::NextRandom() {

@@ -3,11 +3,14 @@
 // is a line scanner with its own split and trim rules and its own way of failing; pages depend on
 // those differences (a missing file must read as empty), so each is kept exactly.
 
-#include <cstdint>
+#include <memory>
 #include <random>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
+
+#include "store/scanners.h"
 
 namespace qb::store {
 
@@ -18,19 +21,32 @@ struct TableRow {
     std::string value;  // the keyed row's second field
 };
 
-// A key and value that ApplyTableValues would match against a list's rows.
-struct TableValue {
-    std::string key;
-    std::string value;
-};
+class ValueIndex;
 
 class TableFiles {
   public:
     // A line past this number ends ReadTableValue and ReadTextFile, and LoadFileNameRows stops.
-    static constexpr int kLineLimit = 5000;
+    static constexpr int kLineLimit = store::kLineLimit;
 
     // `programFolder` is the folder the manager runs from, in the scripts' path form.
     explicit TableFiles(std::string programFolder);
+    ~TableFiles();
+    TableFiles(const TableFiles&) = delete;
+    TableFiles& operator=(const TableFiles&) = delete;
+
+    // While a scope lives (a page load, a rebuild), each file is read once and keys are answered
+    // from an index, with exactly the results of reading the file for each key. A file the scope
+    // writes is read again; outside any scope every read goes to the disk.
+    class ReadScope {
+      public:
+        explicit ReadScope(TableFiles& files);
+        ~ReadScope();
+        ReadScope(const ReadScope&) = delete;
+        ReadScope& operator=(const ReadScope&) = delete;
+
+      private:
+        TableFiles& files_;
+    };
 
     const std::string& ProgramFolder() const { return programFolder_; }
     std::string SettingsFolder() const;  // program folder, "\Vandrell's Quillbook\Settings"
@@ -87,9 +103,20 @@ class TableFiles {
     std::string Resolve(std::string_view file, bool inAppFolder, bool driveTest) const;
 
   private:
+    struct CachedFile;
+    // The lines of a file for a reader: from the disk, or from the scope's copy. Null with the
+    // system's reason when the file can't be opened.
+    std::unique_ptr<LineSource> OpenLines(const std::string& path, int& error);
+    CachedFile* Cached(const std::string& path);
+    std::string NativeOf(const std::string& path);
+    void Forget(const std::string& native);
+
     std::string programFolder_;
     bool slotStuck_ = false;
     std::minstd_rand random_;
+    int scopes_ = 0;
+    std::unordered_map<std::string, std::string> natives_;  // script path -> Linux path
+    std::unordered_map<std::string, std::unique_ptr<CachedFile>> cache_;  // by Linux path
 };
 
 // A number in general decimal form, as row keys carry it.
