@@ -18,6 +18,10 @@ std::unique_ptr<LineReader> LineReader::Open(const std::filesystem::path& path, 
     return std::unique_ptr<LineReader>(new LineReader(file));
 }
 
+std::unique_ptr<LineReader> LineReader::Adopt(std::FILE* stream) {
+    return std::unique_ptr<LineReader>(new LineReader(stream));
+}
+
 LineReader::~LineReader() {
     std::fclose(file_);
 }

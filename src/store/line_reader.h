@@ -38,6 +38,9 @@ class LineReader : public LineSource {
   public:
     // Opens the file for input; `error` holds the system's reason when it can't.
     static std::unique_ptr<LineReader> Open(const std::filesystem::path& path, int& error);
+    // Reads from a stream that is open already (a memory stream, in the fuzz targets), and closes
+    // it at the end.
+    static std::unique_ptr<LineReader> Adopt(std::FILE* stream);
 
     ~LineReader() override;
     LineReader(const LineReader&) = delete;
