@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -285,6 +286,11 @@ void TableFiles::CreateFolder(std::string_view path) {
 double TableFiles::NextRandom() {
     const auto span = static_cast<double>(random_.max() - random_.min()) + 1.0;
     return static_cast<double>(random_() - random_.min()) / span;
+}
+
+void TableFiles::Randomize() {
+    random_.seed(static_cast<std::minstd_rand::result_type>(
+        std::chrono::steady_clock::now().time_since_epoch().count()));
 }
 
 std::string FormatGeneral(double value) {

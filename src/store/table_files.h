@@ -97,6 +97,9 @@ class TableFiles {
     // The next value of the row key generator: uniform in 0 to 1. It is never seeded, so a run
     // repeats the same keys, as the scripts' home system does.
     double NextRandom();
+    // Seeds the generator from the clock. Only the hub link does this, when a hub refuses the
+    // portal's nick; row keys after it differ from run to run.
+    void Randomize();
 
     // The path an operation opens: `file` as it stands when characters 2 and 3 are ":\" and the
     // operation has that test, else below the program folder or the settings folder.
