@@ -8,6 +8,8 @@ const std::vector<Command>& Commands() {
          ShowCommand},
         {"drive", "drive         run user actions read from standard input, one a line",
          DriveCommand},
+        {"portal", "portal [-v]   connect the saved portal's hubs and relay until Ctrl-C",
+         PortalCommand},
     };
     return commands;
 }

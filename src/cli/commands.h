@@ -22,6 +22,7 @@ using Arguments = std::vector<std::string>;  // the words after the command's na
 // Each returns the exit status: 0, 2 for a usage or script error; a FatalError propagates.
 int ShowCommand(Session& session, const Arguments& arguments);
 int DriveCommand(Session& session, const Arguments& arguments);
+int PortalCommand(Session& session, const Arguments& arguments);
 
 struct Command {
     const char* name;

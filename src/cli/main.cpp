@@ -43,7 +43,12 @@ int Run(int argc, char** argv) {
         store::TableFiles files(store::ToScriptPath(fs::absolute(scripts).lexically_normal()));
         shell::ScriptedHost host(std::cout);
         shell::PageRegistry registry;
-        pages::RegisterAllPages(registry);
+        // Drives tick the portal's hubs against a recorder that writes down what it is asked.
+        pages::PageServices services;
+        services.hubLink = [](const hublink::PortalValues& values) {
+            return std::make_unique<hublink::RecordingSessions>(values, std::cout);
+        };
+        pages::RegisterAllPages(registry, services);
         shell::Container container(files, host, registry);
         cli::Session session{files, host, container};
         return command.run(session, {words.begin() + 1, words.end()});

@@ -8,6 +8,7 @@
 #include "gui/fatal.h"
 #include "gui/main_window.h"
 #include "gui/qt_host.h"
+#include "hublink/qt/socket_sessions.h"
 #include "pages/pages.h"
 #include "shell/container.h"
 #include "store/paths.h"
@@ -25,7 +26,9 @@ int main(int argc, char** argv) {
     store::TableFiles files(store::ToScriptPath(fs::absolute(folder).lexically_normal()));
     gui::QtHost host;
     shell::PageRegistry registry;
-    pages::RegisterAllPages(registry);
+    pages::PageServices services;
+    services.hubLink = hublink::SocketSessionsFactory();
+    pages::RegisterAllPages(registry, services);
     shell::Container container(files, host, registry);
 
     gui::Guard([&] { container.LoadProfiles(); });
