@@ -39,6 +39,7 @@ class FakeHub {
     // Every byte the client sent, and a mark to look behind.
     const std::string& Received() const { return received_; }
     std::size_t Mark() const { return received_.size(); }
+    void Forget() { received_.clear(); }
     std::string Since(std::size_t mark) const { return received_.substr(mark); }
     bool WaitFor(std::string_view bytes, std::size_t from = 0);
     // How often `bytes` appears in what the client sent.

@@ -37,7 +37,7 @@ constexpr int kMaxHubs = 2;
 class PortalPage : public Page, private hublink::PortalValues {
   public:
     PortalPage(PageContext& context, const hublink::SessionsFactory& hubLink)
-        : Page(context, "Communication~Portal", "Communication ~ Portal", {5700, 7500}),
+        : Page(context, "Communication~Portal", "Communication ~ Portal", {6600, 7500}),
           txtTextBox{&Add<TextBox>("txtTextBox(0)"), &Add<TextBox>("txtTextBox(1)"),
                      &Add<TextBox>("txtTextBox(2)"), &Add<TextBox>("txtTextBox(3)")},
           lblHubs(Add<Label>("lblLabel(0)", "Hub Settings")),
@@ -52,7 +52,7 @@ class PortalPage : public Page, private hublink::PortalValues {
             txtTextBox[i]->SetCaption(kUserCaptions[i]);
             txtTextBox[i]->onChange = [this] { MarkDirty(); };
         }
-        lvwHubs.SetWidth(5700 - 180 - 2 * 120);
+        lvwHubs.SetWidth(6600 - 180 - 2 * 120);
         lvwNicks.SetWidth(lvwHubs.Width());
         tlbHubs.onButtonClick = [this](const std::string& key) { ListButton(key, hubs_); };
         tlbNicks.onButtonClick = [this](const std::string& key) { ListButton(key, nicks_); };
@@ -86,9 +86,9 @@ class PortalPage : public Page, private hublink::PortalValues {
     void Setup() override {
         shell::SetupListToolbar(tlbHubs);
         shell::SetupListToolbar(tlbNicks);
-        lvwHubs.AddColumn("HubAddress", "Hub Address", 2200);
-        lvwHubs.AddColumn("ClientPassword", "Client Password", 1400);
-        lvwHubs.AddColumn("ClientPort", "Client Port", 1000);
+        lvwHubs.AddColumn("HubAddress", "Hub Address", 2800);
+        lvwHubs.AddColumn("ClientPassword", "Client Password", 1600);
+        lvwHubs.AddColumn("ClientPort", "Client Port", 1100);
         lvwHubs.AddColumn("HubName", "HubName", 0);
         lvwNicks.AddColumn("ID", "ID", 0);
         lvwNicks.AddColumn("Nicks", "Nicks", lvwNicks.Width() - 350);
