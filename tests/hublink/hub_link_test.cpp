@@ -106,14 +106,6 @@ TEST_F(Core, GetInfoAsksOnlyLoggedInHubs) {
     EXPECT_EQ(Sent(2), "$GetINFO Bob Portal|");
 }
 
-TEST_F(Core, UdpPacketsAreOnlyNoted) {
-    link.UdpPacket(1, "");
-    EXPECT_FALSE(link.UdpSeen());
-    link.UdpPacket(2, "$SR x|");
-    EXPECT_TRUE(link.UdpSeen());
-    EXPECT_TRUE(link.TakeActions().empty());
-}
-
 TEST(MyInfo, FieldsAsTheHubSendsThem) {
     const MyInfo info = ParseMyInfo("$ALL Alice my desc$A$LAN(T1)\x01$alice@x$123456$");
     EXPECT_EQ(info.nick, "Alice");
@@ -133,14 +125,6 @@ TEST(MyInfo, ShortAndBrokenLinesStillParse) {
     EXPECT_EQ(broken.share, "0");
     EXPECT_EQ(ParseMyInfo("$ALL C d$M$\x08$$1e3$").share, "1e3");
     EXPECT_EQ(ParseMyInfo("").nick, "");
-}
-
-TEST(ConnectionText, NamesAUserListWouldShow) {
-    EXPECT_EQ(NormaliseConnection("56Kbps"), "Modem");
-    EXPECT_EQ(NormaliseConnection("Microwave"), "Satellite");
-    EXPECT_EQ(NormaliseConnection("LAN(T3)"), "LAN");
-    EXPECT_EQ(NormaliseConnection("Cable"), "Cable");
-    EXPECT_EQ(NormaliseConnection("cable"), "Unknown");
 }
 
 }  // namespace
