@@ -21,4 +21,11 @@ bool ArchiveBuilt(std::string_view edition, ProgramVersion version) {
                       edition);
 }
 
+bool Passes(const EditionTest& test, std::string_view edition, ProgramVersion version) {
+    if (test.archive) return ArchiveBuilt(edition, version);
+    if (test.everyEdition) return true;
+    return edition == "Quillbook" ||
+           std::find(test.alsoIn.begin(), test.alsoIn.end(), edition) != test.alsoIn.end();
+}
+
 }  // namespace qb::store

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qb::store {
 
@@ -29,5 +30,16 @@ bool EditionHas(std::initializer_list<std::string_view> editions,
 // The archive family is written but switched off: it exists in its own editions, and in the full
 // pack only from major version 6.
 bool ArchiveBuilt(std::string_view edition = kEdition, ProgramVersion version = kVersion);
+
+// The editions that have a folder or a function, as data: the folder table and the switch lists
+// carry one per row.
+struct EditionTest {
+    std::vector<std::string_view> alsoIn;  // editions besides the full pack
+    bool everyEdition = false;             // the general and language areas exist in all
+    bool archive = false;                  // the archive family's own rule
+};
+
+bool Passes(const EditionTest& test, std::string_view edition = kEdition,
+            ProgramVersion version = kVersion);
 
 }  // namespace qb::store

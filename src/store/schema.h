@@ -1,11 +1,17 @@
 #pragma once
-// A settings file described once, as data: its path, its table and its keys in order, each with
-// its kind and default. A page's SaveSettings and the rebuild's merge both write the file from
-// the same description, so they can't drift apart where they should agree.
+// A table file described once, as data: its path, its table and its keys in order, each with its
+// kind and default. A page's SaveSettings, its RestoreDefaults and the rebuild's builders all
+// work from the same description, so they can't drift apart where they should agree; where the
+// page and the builder have always written a file differently, the description says how.
 
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "store/edition.h"
 
 namespace qb::store {
 
@@ -20,18 +26,55 @@ struct Field {
     FieldKind kind;
     std::string key;
     std::string defaultValue;  // for profile checks, the default of each row
+    // Builders write the key only in the editions that have its function.
+    EditionTest editions{{}, true};
+};
+
+// What a rebuild does to a file that exists already.
+enum class FileKind {
+    Settings,  // rewritten in the current layout: each key keeps its value unless that is empty
+    Data,      // lists the user or the scripts fill: written only when missing
+    Reset,     // rewritten with its fixed defaults, whatever it held
+};
+
+// Who writes the file: the files are one, but not every writer lays them out alike.
+enum class Writer { Page, Builder };
+
+// How one line is laid out where a writer departs from the common form.
+struct LineForm {
+    int depth = 1;               // tabs before the key's line
+    int rowDepth = 2;            // tabs before a sub-table's rows
+    std::optional<bool> quoted;  // a string key written bare, or a number quoted
+};
+
+// A writer's own layout of the file; the default is the common form of every field.
+struct WriterForm {
+    std::vector<std::string> order;         // the keys in this writer's order; empty: the fields'
+    std::string headerTail;                 // text behind the header's brace
+    std::map<std::string, LineForm> lines;  // by key, the lines laid out otherwise
 };
 
 struct FileSchema {
-    std::string file;   // relative to the settings folder, e.g. "Security\CommandSpy\X.tbl"
-    std::string table;  // e.g. "tCommandSpySettings"
-    std::vector<Field> fields;
+    std::string file;           // relative to the settings folder, e.g. "Security\CommandSpy\X.tbl"
+    std::string table;          // e.g. "tCommandSpySettings"
+    std::vector<Field> fields;  // in the page's order
+    FileKind kind = FileKind::Settings;
+    bool inAppFolder = false;  // `file` is relative to the program folder instead
+    WriterForm pageForm{};
+    WriterForm builderForm{};
 };
 
 // The value of a field; `profile` is the row's profile number for profile checks, else unused.
 using FieldValue = std::function<std::string(const Field& field, int profile)>;
+// Whether a field is written at all.
+using FieldFilter = std::function<bool(const Field& field)>;
 
-// The whole text of the file, for profile numbers -1 to `lastProfile`.
-std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldValue& valueOf);
+// The whole text of the file as `writer` lays it out, for profile numbers -1 to `lastProfile`.
+std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldValue& valueOf,
+                        Writer writer = Writer::Page, const FieldFilter& keep = {});
+
+// The default of a key, or empty for a key the file doesn't have: RestoreDefaults and the
+// builders both ask here.
+std::string DefaultOf(const FileSchema& schema, std::string_view key);
 
 }  // namespace qb::store

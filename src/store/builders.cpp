@@ -1,0 +1,78 @@
+#include "store/builders.h"
+
+#include <optional>
+
+namespace qb::store {
+namespace {
+
+std::string Write(const FileSchema& schema, BuildRun& run, const FieldValue& valueOf) {
+    return RenderTable(schema, run.lastProfile, valueOf, Writer::Builder, [&](const Field& field) {
+        return Passes(field.editions, run.edition, run.version);
+    });
+}
+
+}  // namespace
+
+std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema) {
+    return (schema.inAppFolder ? files.ProgramFolder() : files.SettingsFolder()) + "\\" +
+           schema.file;
+}
+
+void BuildFile(const FileSchema& schema, BuildRun& run) {
+    const std::string path = BuilderReadPath(run.files, schema);
+    const auto byDefault = [](const Field& field, int) { return field.defaultValue; };
+    std::string text;
+    switch (schema.kind) {
+        case FileKind::Data:
+            if (run.files.FileExists(path)) return;
+            text = Write(schema, run, byDefault);
+            break;
+        case FileKind::Reset:
+            text = Write(schema, run, byDefault);
+            break;
+        case FileKind::Settings: {
+            // A table of P profile rows asks its file P times: the scope reads it once.
+            std::optional<TableFiles::ReadScope> scope;
+            if (run.oldValues == OldValues::Indexed) scope.emplace(run.files);
+            // An emptied value and a missing key are one: both take the default. Rows are
+            // found by profile number only, so a row keeps its value with its number.
+            text = Write(schema, run, [&](const Field& field, int profile) {
+                std::string value =
+                    field.kind == FieldKind::ProfileChecks
+                        ? run.files.ReadTableValue(path, std::to_string(profile), field.key)
+                        : run.files.ReadTableValue(path, field.key, schema.table);
+                return value.empty() ? field.defaultValue : value;
+            });
+            break;
+        }
+    }
+    run.files.WriteTextFile(schema.file, text, schema.inAppFolder);
+}
+
+void BuilderRegistry::Add(std::string_view folder, const FileSchema& schema) {
+    Add(folder, [&schema](BuildRun& run) { BuildFile(schema, run); });
+}
+
+void BuilderRegistry::Add(std::string_view folder, FileBuilder builder) {
+    FolderEditions(folder);  // a folder the tree lacks would never be built
+    auto at = byFolder_.find(folder);
+    if (at == byFolder_.end())
+        at = byFolder_.emplace(std::string(folder), std::vector<FileBuilder>{}).first;
+    at->second.push_back(std::move(builder));
+}
+
+void BuilderRegistry::BuildArea(Area area, BuildRun& run) const {
+    for (const SettingsFolder& folder : SettingsFolders()) {
+        if (folder.area != area || !Passes(folder.editions, run.edition, run.version)) continue;
+        const std::string path =
+            (folder.inProgramFolder ? run.files.ProgramFolder() : run.files.SettingsFolder()) +
+            "\\" + std::string(folder.path);
+        if (!run.files.FolderExists(path)) run.files.CreateFolder(path);
+        const auto builders = byFolder_.find(folder.path);
+        if (builders == byFolder_.end()) continue;
+        for (const FileBuilder& build : builders->second)
+            build(run);
+    }
+}
+
+}  // namespace qb::store

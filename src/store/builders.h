@@ -1,0 +1,61 @@
+#pragma once
+// The frame of the rebuild: the builders that bring every file of the settings tree to the
+// current layout and to the hub's profiles. A file's builder follows from its schema and its kind
+// (settings merged key by key, data written only when missing, reset files rewritten); function
+// groups register their files' builders against the folders of the settings tree, and an area's
+// build makes its folders in the table's order, each right before its builders.
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/edition.h"
+#include "store/schema.h"
+#include "store/settings_tree.h"
+#include "store/table_files.h"
+
+namespace qb::store {
+
+// How a builder reads the values a file held before: inside a read scope, from one reading of
+// the file and its index (the normal way), or key by key with the plain scanner, the reference
+// the index is measured against.
+enum class OldValues { Indexed, Scanned };
+
+struct BuildRun {
+    TableFiles& files;
+    int lastProfile;  // per-profile rows are written for the numbers -1 to this one
+    std::string_view edition = kEdition;
+    ProgramVersion version = kVersion;
+    OldValues oldValues = OldValues::Indexed;
+};
+
+// The path a builder reads a file through: absolute, so that the readers' drive test takes it as
+// it stands. A program folder without a drive letter fails that test, and every read misses.
+std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema);
+
+// Brings one file to the current layout. A settings file keeps each key's value unless it is
+// empty, which takes the default; a data file is written only when missing; a reset file is
+// rewritten with its defaults. Keys whose function the edition lacks aren't written.
+void BuildFile(const FileSchema& schema, BuildRun& run);
+
+using FileBuilder = std::function<void(BuildRun& run)>;
+
+class BuilderRegistry {
+  public:
+    // Adds the builder of a file to a folder of the settings tree. The builders of one folder run
+    // in the order they were added. The schema must outlive the registry.
+    void Add(std::string_view folder, const FileSchema& schema);
+    // A builder that a schema can't describe.
+    void Add(std::string_view folder, FileBuilder builder);
+
+    // Makes the area's folders that the edition has, in the table's order, and runs each
+    // folder's builders right after making it.
+    void BuildArea(Area area, BuildRun& run) const;
+
+  private:
+    std::map<std::string, std::vector<FileBuilder>, std::less<>> byFolder_;
+};
+
+}  // namespace qb::store
