@@ -4,9 +4,11 @@ namespace qb::cli {
 
 const std::vector<Command>& Commands() {
     static const std::vector<Command> commands = {
-        {"show", "show KEY      print the page of a function key, after its load, as JSON",
+        {"start", "start [--yes|--no]  start up as the window does: checks, rebuild, news",
+         StartCommand},
+        {"show", "show KEY            print the page of a function key, after its load, as JSON",
          ShowCommand},
-        {"drive", "drive         run user actions read from standard input, one a line",
+        {"drive", "drive               run user actions read from standard input, one a line",
          DriveCommand},
         {"portal", "portal [-v]   connect the saved portal's hubs and relay until Ctrl-C",
          PortalCommand},

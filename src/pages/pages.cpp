@@ -1,6 +1,7 @@
 #include "pages/pages.h"
 
 #include "pages/communication/communication.h"
+#include "pages/general/general.h"
 #include "pages/security/security.h"
 
 namespace qb::pages {
@@ -8,6 +9,11 @@ namespace qb::pages {
 void RegisterAllPages(shell::PageRegistry& registry, const PageServices& services) {
     RegisterCommunicationPages(registry, services);
     RegisterSecurityPages(registry);
+}
+
+void RegisterAllBuilders(store::BuilderRegistry& builders) {
+    RegisterGeneralBuilders(builders);
+    RegisterSecurityBuilders(builders);
 }
 
 }  // namespace qb::pages

@@ -32,6 +32,9 @@ class Container {
     // The hub file's text as read, for the copy a rebuild writes.
     const std::string& ProfileText() const { return profileText_; }
 
+    // The news rows, never shown as a list: the status bar shows the last one.
+    ListControl& News() { return lvwNews_; }
+
     // Loads and shows the page of `key`, or brings it to the front when it is open already; there
     // is never a second instance of a page. Null when the key has no page.
     Page* Open(const std::string& key);
@@ -57,6 +60,7 @@ class Container {
     store::ProfileList profiles_;
     store::ProfileList oldProfiles_;
     std::string profileText_;
+    ListControl lvwNews_{"lvwNews"};
     PageContext context_;
     std::vector<std::unique_ptr<Page>> pages_;
     Page* active_ = nullptr;

@@ -66,12 +66,18 @@ std::vector<std::string> ScriptedHost::Unused() const {
 Answer ScriptedHost::ShowMessage(const Message& message) {
     const std::string shown =
         "message: " + Cp1252ToUtf8(message.title) + ": " + Cp1252ToUtf8(message.text);
-    if (answers_.empty()) {
+    std::optional<Answer> given;
+    if (!answers_.empty()) {
+        given = answers_.front();
+        answers_.pop_front();
+    } else if (answerUnqueued) {
+        given = answerUnqueued(message);
+    }
+    if (!given) {
         out_ << shown << " -> ?\n";
         throw UnansweredPrompt("no answer queued for: " + shown);
     }
-    const Answer answer = answers_.front();
-    answers_.pop_front();
+    const Answer answer = *given;
     out_ << shown << " -> " << AnswerName(answer) << "\n";
     if (!Fits(answer, message.buttons)) {
         throw UnansweredPrompt("the box has no " + AnswerName(answer) + " button: " + shown);

@@ -48,6 +48,10 @@ class ScriptedHost : public Host {
     void OpenTextEditor(const std::string& file, const std::string& mode) override;
     void OpenWebAddress(const std::string& address) override;
 
+    // Answers a message box when no answer is queued: a standing answer, or the user asked on a
+    // terminal. Without it, or when it gives none, the prompt is unanswered.
+    std::function<std::optional<Answer>(const Message& message)> answerUnqueued;
+
     // Where the text editor page opens; set by whoever owns the open pages.
     std::function<void(const std::string& file, const std::string& mode)> openTextEditor;
 

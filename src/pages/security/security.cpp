@@ -6,4 +6,8 @@ void RegisterSecurityPages(shell::PageRegistry& registry) {
     RegisterSpyPages(registry);
 }
 
+void RegisterSecurityBuilders(store::BuilderRegistry& builders) {
+    RegisterSpyBuilders(builders);
+}
+
 }  // namespace qb::pages

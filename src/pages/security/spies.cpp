@@ -57,6 +57,17 @@ const store::FileSchema& CommandSpySettingsSchema() {
     return schema;
 }
 
+const store::FileSchema& CommandSpyUsersSchema() {
+    static const store::FileSchema schema{
+        "Security\\CommandSpy\\CommandSpyUsers.tbl", "tCommandSpyUsers", {}, store::FileKind::Data};
+    return schema;
+}
+
+void RegisterSpyBuilders(store::BuilderRegistry& builders) {
+    builders.Add("Security\\CommandSpy", CommandSpySettingsSchema());
+    builders.Add("Security\\CommandSpy", CommandSpyUsersSchema());
+}
+
 void RegisterSpyPages(shell::PageRegistry& registry) {
     registry.Register("Security~CommandSpy", [](PageContext& context) {
         return std::make_unique<CommandSpyPage>(context);

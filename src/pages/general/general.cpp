@@ -1,0 +1,14 @@
+#include "pages/general/general.h"
+
+#include "pages/general/switches.h"
+
+namespace qb::pages {
+
+void RegisterGeneralBuilders(store::BuilderRegistry& builders) {
+    RegisterBotBuilders(builders);
+    // General\Globals: the settings first, then the two reset files.
+    RegisterSettingsBuilders(builders);
+    RegisterSwitchBuilders(builders);
+}
+
+}  // namespace qb::pages

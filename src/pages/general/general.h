@@ -1,0 +1,21 @@
+#pragma once
+// The general functions: the scripts' global settings, their bots, the function switches and the
+// news. Their files and the builders of those files; the pages come with their own sources.
+
+#include "store/builders.h"
+#include "store/schema.h"
+
+namespace qb::pages {
+
+// The general area's builders, folder by folder.
+void RegisterGeneralBuilders(store::BuilderRegistry& builders);
+
+// General\Globals\GeneralSettings.tbl: prefix, border and right click name (settings.cpp).
+const store::FileSchema& GeneralSettingsSchema();
+void RegisterSettingsBuilders(store::BuilderRegistry& builders);
+
+// General\Bots\BotSettings.tbl: who is told of bot changes (bots.cpp).
+const store::FileSchema& BotSettingsSchema();
+void RegisterBotBuilders(store::BuilderRegistry& builders);
+
+}  // namespace qb::pages

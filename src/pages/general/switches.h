@@ -1,0 +1,31 @@
+#pragma once
+// The function switches: which functions of the scripts run at all (Switches.tbl) and which show
+// right click entries (EnableRightClicks.tbl). Both files have the same keys, one flag per
+// function, and every rebuild resets both to their defaults.
+
+#include <string_view>
+#include <vector>
+
+#include "store/builders.h"
+#include "store/schema.h"
+
+namespace qb::pages {
+
+struct SwitchKey {
+    std::string_view key;     // "bAnagrams"
+    bool on;                  // the default
+    std::string_view folder;  // the function's folder: a key exists where its folder does
+};
+
+// Every switch, in the files' order.
+const std::vector<SwitchKey>& SwitchKeys();
+
+// General\Globals\Switches.tbl, table tSwitches.
+const store::FileSchema& SwitchesSchema();
+// General\Globals\EnableRightClicks.tbl, table tEnableRightClicks.
+const store::FileSchema& EnableRightClicksSchema();
+
+// Both reset files, Switches.tbl first.
+void RegisterSwitchBuilders(store::BuilderRegistry& builders);
+
+}  // namespace qb::pages
