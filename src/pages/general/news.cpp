@@ -62,7 +62,11 @@ bool LoadNewsRows(store::TableFiles& files, shell::ListControl& list) {
         const std::string value = list.Cell(row, kHeadline);
         const auto fields = store::SplitAll(value, "|");
         for (size_t field = 0; field < 4; ++field) {
-            if (field >= fields.size()) return false;
+            if (field >= fields.size()) {
+                while (list.Count() > row)
+                    list.Remove(list.Count());
+                return false;
+            }
             if (field == 0) {
                 list.SetText(row, std::string(fields[0]));
             } else {
@@ -88,13 +92,13 @@ void LoadNews(store::TableFiles& files, shell::ListControl& lvwNews,
               shell::StatusBar* stsContainer) {
     if (lvwNews.ColumnCount() == 0) AddNewsColumns(lvwNews);
     lvwNews.Clear();
-    // A malformed row ends the news at that row, before anything is written back, so the file
-    // keeps it for the scripts' next news.
-    if (!LoadNewsRows(files, lvwNews)) return;
+    // A malformed row ends the news at that row; what was loaded is written back all the same,
+    // so a story cut at its "=" by the reader is cut in the file too from now on.
+    LoadNewsRows(files, lvwNews);
     const store::FileSchema& settings = NewsSettingsSchema();
     const auto lastId =
         LastId(files.ReadTableValue(settings.file, "iLastID", settings.table, true));
-    if (!lastId) return;
+    if (!lastId) return;  // no number to write back: both files stay as they are
 
     // Both files are written back at every start, changed or not. A failure to write them is
     // not worth ending the program for: the news just isn't shown.

@@ -23,8 +23,8 @@ const store::FileSchema& NewsSettingsSchema();
 void AddNewsColumns(shell::ListControl& list);
 
 // Appends the rows of News.tbl: the row's text is the date, then headline, story, symbol and the
-// news id. A row whose value has fewer than four fields ends the load there, half filled, and
-// the result is false.
+// news id. A row whose value has fewer than four fields ends the load: it stays, filled up to its
+// missing field, the rows behind it aren't loaded, and the result is false.
 bool LoadNewsRows(store::TableFiles& files, shell::ListControl& list);
 
 // News.tbl as it is written back: one row per list row, in list order.
