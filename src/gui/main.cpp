@@ -8,6 +8,7 @@
 #include "gui/fatal.h"
 #include "gui/main_window.h"
 #include "gui/qt_host.h"
+#include "gui/start.h"
 #include "hublink/qt/socket_sessions.h"
 #include "pages/pages.h"
 #include "shell/container.h"
@@ -31,8 +32,10 @@ int main(int argc, char** argv) {
     pages::RegisterAllPages(registry, services);
     shell::Container container(files, host, registry);
 
-    gui::Guard([&] { container.LoadProfiles(); });
-    if (gui::FatalErrorShown()) return 1;
+    store::BuilderRegistry builders;
+    pages::RegisterAllBuilders(builders);
+    // A Cancel at the rebuild prompt ends the program with status 3, as the command line does.
+    if (!gui::StartBeforeWindow(container, builders)) return gui::FatalErrorShown() ? 1 : 3;
 
     gui::MainWindow window(container);
     host.SetParent(&window);

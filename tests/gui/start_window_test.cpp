@@ -1,0 +1,85 @@
+// The start before the window opens, with the rebuild question in a real message box.
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTimer>
+#include <QtTest>
+#include <filesystem>
+
+#include "gui/qt_host.h"
+#include "gui/start.h"
+#include "pages/pages.h"
+#include "shell/container.h"
+#include "support/temp_hub.h"
+
+namespace qb::gui {
+
+namespace fs = std::filesystem;
+
+class StartWindowTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void init() {
+        hub_ = std::make_unique<test::TempHub>();
+        fs::remove_all(hub_->Settings());  // a script pack that was never set up
+        hub_->Write("cfg/Profiles.xml", "<Name>Master</Name>\n");
+        files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
+        pages::RegisterAllBuilders(builders_);
+        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
+    }
+
+    void cleanup() {
+        container_.reset();
+        files_.reset();
+        builders_ = store::BuilderRegistry();
+        hub_.reset();
+    }
+
+    void cancelEndsTheStartWithNothingBuilt() {
+        AnswerNextBox(QMessageBox::Cancel);
+        QVERIFY(!StartBeforeWindow(*container_, builders_));
+        QCOMPARE(seen_, QStringLiteral("Vandrell's Quillbook: Version Change Detected\n"
+                                       "New version detected. Settings must be rebuilt; "
+                                       "continue?"));
+        QVERIFY(!fs::exists(hub_->Settings()));
+        QVERIFY(fs::is_directory(hub_->Scripts() / "Vandrell's Scripts" / "News"));
+    }
+
+    void okBuildsTheTreeAndTheWindowMayOpen() {
+        AnswerNextBox(QMessageBox::Ok);
+        QVERIFY(StartBeforeWindow(*container_, builders_));
+        QCOMPARE(QString::fromStdString(hub_->ReadSetting("General/Globals/Version.tbl")),
+                 QStringLiteral("tVersion = {\r\n\tsVersion = \"5.3.0\",\r\n}\r\n"));
+        QVERIFY(
+            fs::exists(hub_->Settings() / "Security" / "CommandSpy" / "CommandSpySettings.tbl"));
+    }
+
+  private:
+    // Clicks a button of the message box that is about to open, and notes its title and text.
+    void AnswerNextBox(QMessageBox::StandardButton button) {
+        seen_.clear();
+        QTimer::singleShot(0, this, [this, button] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr) {
+                AnswerNextBox(button);  // not open yet: look again
+                return;
+            }
+            seen_ = box->windowTitle() + "\n" + box->text();
+            box->button(button)->click();
+        });
+    }
+
+    std::unique_ptr<test::TempHub> hub_;
+    std::unique_ptr<store::TableFiles> files_;
+    QtHost host_;
+    shell::PageRegistry registry_;
+    store::BuilderRegistry builders_;
+    std::unique_ptr<shell::Container> container_;
+    QString seen_;
+};
+
+}  // namespace qb::gui
+
+QTEST_MAIN(qb::gui::StartWindowTest)
+#include "start_window_test.moc"
