@@ -10,8 +10,10 @@ const std::vector<Command>& Commands() {
          ShowCommand},
         {"drive", "drive               run user actions read from standard input, one a line",
          DriveCommand},
-        {"portal", "portal [-v]   connect the saved portal's hubs and relay until Ctrl-C",
+        {"portal", "portal [-v]         connect the saved portal's hubs and relay until Ctrl-C",
          PortalCommand},
+        {"check", "check               list the table files the scripts would fail to load",
+         CheckCommand},
     };
     return commands;
 }

@@ -24,6 +24,7 @@ using Arguments = std::vector<std::string>;  // the words after the command's na
 int StartCommand(Session& session, const Arguments& arguments);
 int ShowCommand(Session& session, const Arguments& arguments);
 int DriveCommand(Session& session, const Arguments& arguments);
+int CheckCommand(Session& session, const Arguments& arguments);
 int PortalCommand(Session& session, const Arguments& arguments);
 
 struct Command {

@@ -6,11 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <lua.hpp>
 #include <map>
 #include <memory>
 #include <sstream>
 
+#include "cli/lua_tables.h"
 #include "pages/general/news.h"
 #include "pages/pages.h"
 #include "shell/scripted_host.h"
@@ -34,59 +34,6 @@ struct Mismatch {
     std::string key;
     std::string lua;
     std::string reader;
-};
-
-class LuaFile {
-  public:
-    LuaFile() : state_(luaL_newstate(), lua_close) {}
-
-    // Runs the file with a table of its own as its globals; empty on success, else Lua's error.
-    std::string Load(const fs::path& path) {
-        lua_State* L = state_.get();
-        if (luaL_loadfile(L, path.c_str()) != LUA_OK) return lua_tostring(L, -1);
-        lua_newtable(L);
-        lua_pushvalue(L, -1);
-        lua_setupvalue(L, -3, 1);  // the chunk's _ENV
-        lua_insert(L, -2);
-        if (lua_pcall(L, 0, 0, 0) != LUA_OK) return lua_tostring(L, -1);
-        return {};
-    }
-
-    // Calls `visit(table, key, value)` for every value below the globals, where `table` is the
-    // name of the innermost table holding it. Values that are neither strings nor whole numbers
-    // are reported with a value of "(type name)".
-    template <class Visit>
-    void EachValue(const Visit& visit) {
-        Walk(lua_gettop(state_.get()), "", visit);
-    }
-
-  private:
-    static std::string KeyText(lua_State* L, int index) {
-        if (lua_isinteger(L, index)) return std::to_string(lua_tointeger(L, index));
-        if (lua_type(L, index) == LUA_TSTRING) {
-            size_t length = 0;
-            const char* text = lua_tolstring(L, index, &length);
-            return std::string(text, length);
-        }
-        return std::string("(") + luaL_typename(L, index) + ")";
-    }
-
-    template <class Visit>
-    void Walk(int table, const std::string& name, const Visit& visit) {
-        lua_State* L = state_.get();
-        lua_pushnil(L);
-        while (lua_next(L, table) != 0) {
-            const std::string key = KeyText(L, -2);
-            if (lua_istable(L, -1)) {
-                Walk(lua_gettop(L), key, visit);
-            } else {
-                visit(name, key, KeyText(L, -1));
-            }
-            lua_pop(L, 1);
-        }
-    }
-
-    std::unique_ptr<lua_State, void (*)(lua_State*)> state_;
 };
 
 TEST(LuaOracle, EveryTableFileOfAFreshStartLoadsInLuaWithTheReadersValues) {
@@ -114,7 +61,7 @@ TEST(LuaOracle, EveryTableFileOfAFreshStartLoadsInLuaWithTheReadersValues) {
     for (const auto& entry : fs::recursive_directory_iterator(hub.Scripts())) {
         if (entry.path().extension() != ".tbl") continue;
         const std::string name = entry.path().filename().string();
-        LuaFile lua;
+        cli::LuaTables lua;
         const std::string error = lua.Load(entry.path());
         if (kNotLua.contains(name)) {
             EXPECT_NE(error, "") << name << " is listed as unloadable but loads";
