@@ -6,6 +6,8 @@ const std::vector<Command>& Commands() {
     static const std::vector<Command> commands = {
         {"start", "start [--yes|--no]  start up as the window does: checks, rebuild, news",
          StartCommand},
+        {"pages", "pages               print the navigation tree, a node a line: KEY<TAB>TEXT",
+         PagesCommand},
         {"show", "show KEY            print the page of a function key, after its load, as JSON",
          ShowCommand},
         {"drive", "drive               run user actions read from standard input, one a line",

@@ -22,6 +22,7 @@ using Arguments = std::vector<std::string>;  // the words after the command's na
 // Each returns the exit status: 0, 2 for a usage or script error, 3 when the user ends the
 // program at a prompt; a FatalError propagates.
 int StartCommand(Session& session, const Arguments& arguments);
+int PagesCommand(Session& session, const Arguments& arguments);
 int ShowCommand(Session& session, const Arguments& arguments);
 int DriveCommand(Session& session, const Arguments& arguments);
 int CheckCommand(Session& session, const Arguments& arguments);

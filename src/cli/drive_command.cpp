@@ -11,6 +11,10 @@ int DriveCommand(Session& session, const Arguments& arguments) {
         return 2;
     }
     session.container.LoadProfiles();
+    session.container.FillNavigation();
+    session.host.openTextEditor = [&session](const std::string& file, const std::string& mode) {
+        session.container.OpenTextEditor(file, mode);
+    };
     Driver driver(session.container, session.host, std::cout);
     return driver.Run(std::cin, std::cerr);
 }

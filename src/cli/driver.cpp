@@ -3,6 +3,9 @@
 #include <charconv>
 
 #include "cli/page_json.h"
+#include "shell/about.h"
+#include "shell/catalogue.h"
+#include "shell/popup_menus.h"
 #include "store/cp1252.h"
 #include "store/paths.h"
 
@@ -115,6 +118,9 @@ shell::Page& Driver::ActivePage() const {
 }
 
 shell::Control& Driver::ControlOf(const std::string& name) const {
+    // The main window's own toolbars, then the active page's controls.
+    if (name == "tlbMDITop") return container_.MDITop();
+    if (name == "tlbSidebar") return container_.Sidebar();
     shell::Page& page = ActivePage();
     shell::Control* control = page.Find(name);
     if (control == nullptr) throw ScriptError(page.Caption() + " has no control " + name);
@@ -122,13 +128,65 @@ shell::Control& Driver::ControlOf(const std::string& name) const {
     return *control;
 }
 
+void Driver::MenuClick(const std::string& name) {
+    if (name == "mnuFileClose") {
+        // Closing the main window ends the program, unless a page keeps it open.
+        if (container_.CloseAll()) ended_ = true;
+        return;
+    }
+    if (name == "mnuWindowsShowAll") {
+        ShowAllWindows("");
+        return;
+    }
+    if (name == "mnuHelpAbout") {
+        const auto about = shell::AboutBox();
+        out_ << "about: " << store::Cp1252ToUtf8(about.caption) << ": "
+             << store::Cp1252ToUtf8(about.version) << "\n";
+        return;
+    }
+    if (container_.ClickAppMenu(name)) return;
+    // A pop-up entry, or the method an entry calls; a method no entry calls can't be reached.
+    const shell::PopupEntry* entry = shell::FindPopupEntry(name);
+    if (entry == nullptr) entry = shell::PopupEntryCalling(name);
+    if (entry == nullptr) throw ScriptError("no menu entry " + name);
+    shell::Page& page = ActivePage();
+    if (!container_.ClickPopupEntry(entry->name)) {
+        throw ScriptError(page.Caption() + " offers no menu entry " + entry->name);
+    }
+}
+
+void Driver::ShowAllWindows(const std::string& choice) {
+    // The dialog lists every open window; OK opens the chosen row's page.
+    std::string line = "windows:";
+    int row = 0;
+    for (const auto& entry : container_.OpenWindows()) {
+        line += row == 0 ? " " : ", ";
+        ++row;
+        line += std::to_string(row) + ". " + store::Cp1252ToUtf8(entry.WindowName());
+    }
+    // The dialog's list starts with its first row selected.
+    if (choice == "Cancel" || (choice.empty() && row == 0)) {
+        out_ << line << " -> Cancel\n";
+        return;
+    }
+    const int chosen = choice.empty() ? 1 : ParseNumber(choice, "ROW");
+    if (chosen < 1 || chosen > container_.OpenWindows().Count()) {
+        out_ << line << " -> ?\n";
+        throw ScriptError("the Windows dialog has no row " + choice);
+    }
+    out_ << line << " -> OK " << chosen << "\n";
+    container_.OpenFunctionPage(container_.OpenWindows().Item(chosen).WindowTag());
+}
+
 void Driver::Execute(const std::vector<std::string>& words) {
     using shell::ControlKind;
     const std::string& action = words.front();
+    if (ended_) throw ScriptError("the program has ended");
     if (action == "open") {
         Need(words, 2, 2, "open KEY");
-        if (container_.Open(words[1]) == nullptr)
-            throw ScriptError("no page has the key " + words[1]);
+        if (!shell::IsCatalogueKey(words[1]))
+            throw ScriptError("no function has the key " + words[1]);
+        container_.OpenFunctionPage(words[1]);
     } else if (action == "close") {
         Need(words, 1, 2, "close [KEY]");
         shell::Page* page = words.size() == 2 ? container_.Find(words[1]) : container_.Active();
@@ -172,6 +230,9 @@ void Driver::Execute(const std::vector<std::string>& words) {
                 throw ScriptError(words[1] + " takes no value");
         }
         Refused(done, "set " + words[1] + " to " + words[2]);
+    } else if (action == "click" && words.size() == 3 && words[1] == "tvwFunctions") {
+        Refused(container_.SelectNode(words[2]), "click the node " + words[2]);
+        container_.OpenFunctionPage("");
     } else if (action == "click") {
         Need(words, 2, 4, "click CONTROL [BUTTONKEY [MENUKEY]]");
         shell::Control& control = ControlOf(words[1]);
@@ -191,12 +252,15 @@ void Driver::Execute(const std::vector<std::string>& words) {
         }
         Refused(done, "click " + words[1] + (words.size() > 2 ? " " + words[2] : ""));
     } else if (action == "menu") {
-        Need(words, 2, 2, "menu METHOD");
-        shell::Page& page = ActivePage();
-        if (!page.HasMenuMethod(words[1])) {
-            throw ScriptError(page.Caption() + " offers no menu entry " + words[1]);
-        }
-        page.CallMenuMethod(words[1]);
+        Need(words, 2, 2, "menu ENTRY|METHOD");
+        MenuClick(words[1]);
+    } else if (action == "window") {
+        Need(words, 2, 2, "window N");
+        Refused(container_.ClickWindowsMenu(ParseNumber(words[1], "N")),
+                "click the Windows menu entry " + words[1]);
+    } else if (action == "windows") {
+        Need(words, 1, 2, "windows [ROW|Cancel]");
+        ShowAllWindows(words.size() == 2 ? words[1] : "");
     } else if (action == "answer") {
         Need(words, 2, 2, "answer OK|Cancel|Yes|No");
         const std::string& word = words[1];
@@ -212,9 +276,9 @@ void Driver::Execute(const std::vector<std::string>& words) {
             throw ScriptError("answer takes OK, Cancel, Yes or No");
         }
     } else if (action == "dialog") {
-        Need(words, 2, 6, "dialog OK|Add|Cancel [FIELD...]");
-        if (words[1] != "OK" && words[1] != "Add" && words[1] != "Cancel") {
-            throw ScriptError("dialog takes OK, Add or Cancel");
+        Need(words, 2, 6, "dialog OK|Add|Cancel|Close [FIELD...]");
+        if (words[1] != "OK" && words[1] != "Add" && words[1] != "Cancel" && words[1] != "Close") {
+            throw ScriptError("dialog takes OK, Add, Cancel or Close");
         }
         host_.QueueDialog({words[1], {words.begin() + 2, words.end()}});
     } else if (action == "input") {
@@ -225,6 +289,10 @@ void Driver::Execute(const std::vector<std::string>& words) {
         host_.QueueFile(PathOrCancel(words[1]));
     } else if (action == "show") {
         Need(words, 1, 2, "show [KEY]");
+        if (words.size() == 2 && words[1] == "frmContainer") {
+            out_ << ContainerJson(container_) << "\n";
+            return;
+        }
         shell::Page* page = words.size() == 2 ? container_.Find(words[1]) : container_.Active();
         if (page == nullptr) throw ScriptError("no such page is open");
         out_ << PageJson(*page) << "\n";

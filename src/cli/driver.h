@@ -35,12 +35,15 @@ class Driver {
     void Execute(const std::vector<std::string>& words);
 
   private:
+    void MenuClick(const std::string& name);
+    void ShowAllWindows(const std::string& choice);
     shell::Page& ActivePage() const;
     shell::Control& ControlOf(const std::string& name) const;
 
     shell::Container& container_;
     shell::ScriptedHost& host_;
     std::ostream& out_;
+    bool ended_ = false;  // the main window has closed
 };
 
 }  // namespace qb::cli

@@ -216,4 +216,39 @@ std::string PageJson(const shell::Page& page) {
     return out;
 }
 
+std::string ContainerJson(const shell::Container& container) {
+    auto& c = const_cast<shell::Container&>(container);
+    std::string out;
+    {
+        JsonObject json(out);
+        json.Text("caption", shell::Container::WindowCaption());
+        json.Bool("sidebar", container.SideBarVisible());
+        json.Text("selected", container.SelectedNode());
+        Array(json.Key("expanded"), container.ExpandedNodes(),
+              [&](const std::string& key) { out += JsonString(key); });
+        json.Text("active", container.Active() != nullptr ? container.Active()->Key() : "");
+        Array(json.Key("pages"), container.OpenPages(),
+              [&](const std::unique_ptr<shell::Page>& page) { out += JsonString(page->Key()); });
+        std::vector<shell::WindowsMenuItem> shown;
+        for (const auto& item : container.WindowsMenu()) {
+            if (item.visible) shown.push_back(item);
+        }
+        Array(json.Key("windowsMenu"), shown, [&](const shell::WindowsMenuItem& item) {
+            JsonObject m(out);
+            m.Text("caption", item.caption);
+            m.Text("tag", item.tag);
+        });
+        Array(json.Key("openWindows"), container.OpenWindows(),
+              [&](const shell::COpenWindow& entry) { out += JsonString(entry.WindowName()); });
+        {
+            JsonObject counters(json.Key("counters"));
+            for (const auto& group : container.Navigation().groups)
+                counters.Number(group.key.c_str(), container.GroupCounter(group.key));
+        }
+        Array(json.Key("status"), c.Status().Panels(),
+              [&](const shell::StatusPanel& panel) { out += JsonString(panel.text); });
+    }
+    return out;
+}
+
 }  // namespace qb::cli

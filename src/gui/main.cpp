@@ -32,15 +32,23 @@ int main(int argc, char** argv) {
     pages::RegisterAllPages(registry, services);
     shell::Container container(files, host, registry);
 
+    host.openTextEditor = [&container](const std::string& file, const std::string& mode) {
+        container.OpenTextEditor(file, mode);
+    };
+
+    // The navigation comes first, so that the portal switch is read before a rebuild could
+    // touch the switches file; then the checks and the rebuild, before the window shows.
+    gui::Guard([&] { container.FillNavigation(); });
+    if (gui::FatalErrorShown()) return 1;
     store::BuilderRegistry builders;
     pages::RegisterAllBuilders(builders);
     // A Cancel at the rebuild prompt ends the program with status 3, as the command line does.
     if (!gui::StartBeforeWindow(container, builders)) return gui::FatalErrorShown() ? 1 : 3;
+    gui::Guard([&] { container.SetupStatusBar(); });
+    if (gui::FatalErrorShown()) return 1;
 
     gui::MainWindow window(container);
     host.SetParent(&window);
     window.show();
-    window.OpenPage("Security~CommandSpy");
-    if (gui::FatalErrorShown()) return 1;
     return QApplication::exec();
 }

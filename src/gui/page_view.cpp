@@ -21,6 +21,7 @@
 #include "gui/icons.h"
 #include "gui/list_model.h"
 #include "gui/text.h"
+#include "gui/toolbar_binding.h"
 #include "shell/page_frame.h"
 
 namespace qb::gui {
@@ -37,85 +38,6 @@ void SyncCommon(const shell::Control& control, QWidget* widget) {
     widget->setEnabled(control.Enabled());
     widget->setVisible(control.Visible());
 }
-
-class ToolbarBinding : public QToolBar {
-  public:
-    explicit ToolbarBinding(shell::Toolbar& toolbar) : toolbar_(toolbar) {
-        setObjectName(QString::fromStdString(toolbar.Name()));
-        setMovable(false);
-        setFloatable(false);
-        setIconSize(QSize(16, 16));
-        setToolButtonStyle(Qt::ToolButtonIconOnly);
-        toolbar_.SetListener([this] { Sync(); });
-        Rebuild();
-    }
-    ~ToolbarBinding() override { toolbar_.SetListener(nullptr); }
-
-  private:
-    // The buttons change state often (SAVE on every edit) and their set rarely: only a change of
-    // the set rebuilds the actions, and then after the click that caused it has returned.
-    void Sync() {
-        if (!SameButtons()) {
-            QMetaObject::invokeMethod(
-                this, [this] { Rebuild(); }, Qt::QueuedConnection);
-            return;
-        }
-        int i = 0;
-        for (const auto& button : toolbar_.Buttons()) {
-            QAction* action = actions_[static_cast<size_t>(i++)];
-            if (action == nullptr) continue;
-            action->setEnabled(button.enabled);
-            action->setToolTip(ToQt(button.tip));
-            action->setChecked(button.pressed);
-        }
-        SyncCommon(toolbar_, this);
-    }
-
-    bool SameButtons() const {
-        if (keys_.size() != toolbar_.Buttons().size()) return false;
-        for (size_t i = 0; i < keys_.size(); ++i) {
-            const auto& button = toolbar_.Buttons()[i];
-            if (keys_[i] != (button.separator ? std::string() : button.key)) return false;
-        }
-        return true;
-    }
-
-    void Rebuild() {
-        clear();
-        actions_.clear();
-        keys_.clear();
-        for (const auto& button : toolbar_.Buttons()) {
-            keys_.push_back(button.separator ? std::string() : button.key);
-            if (button.separator) {
-                addSeparator();
-                actions_.push_back(nullptr);
-                continue;
-            }
-            QAction* action = addAction(IconFor(button.image), ToQt(button.key));
-            action->setObjectName(QString::fromStdString(button.key));
-            action->setCheckable(button.pressed);
-            const std::string key = button.key;
-            connect(action, &QAction::triggered, this,
-                    [this, key] { Guard([&] { toolbar_.UserClick(key); }); });
-            if (!button.menu.empty()) {
-                auto* menu = new QMenu(this);
-                for (const auto& entry : button.menu) {
-                    const std::string menuKey = entry.key;
-                    menu->addAction(ToQt(entry.text), this, [this, key, menuKey] {
-                        Guard([&] { toolbar_.UserMenuClick(key, menuKey); });
-                    });
-                }
-                action->setMenu(menu);
-            }
-            actions_.push_back(action);
-        }
-        Sync();
-    }
-
-    shell::Toolbar& toolbar_;
-    std::vector<QAction*> actions_;
-    std::vector<std::string> keys_;
-};
 
 class ListBinding : public QTreeView {
   public:
@@ -290,10 +212,11 @@ QWidget* PageView::Build(const shell::Control& constControl) {
             if (text.MultiLine()) {
                 auto* edit = new QPlainTextEdit;
                 edit->setObjectName(name);
+                // The model keeps the file's CRLF line ends; the widget has bare line feeds.
                 auto sync = [&text, edit] {
-                    if (FromQt(edit->toPlainText()) != text.Text()) {
+                    if (FromQtLines(edit->toPlainText()) != text.Text()) {
                         const QSignalBlocker block(edit);
-                        edit->setPlainText(ToQt(text.Text()));
+                        edit->setPlainText(ToQtLines(text.Text()));
                     }
                     edit->setReadOnly(text.ReadOnly());
                     SyncCommon(text, edit);
@@ -301,7 +224,7 @@ QWidget* PageView::Build(const shell::Control& constControl) {
                 text.SetListener(sync);
                 sync();
                 connect(edit, &QPlainTextEdit::textChanged, edit, [&text, edit] {
-                    Guard([&] { text.UserSetText(FromQt(edit->toPlainText())); });
+                    Guard([&] { text.UserSetText(FromQtLines(edit->toPlainText())); });
                 });
                 return edit;
             }

@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <stdexcept>
 
+#include "gui/edit_dialog_view.h"
 #include "gui/text.h"
 #include "store/paths.h"
 
@@ -60,9 +61,10 @@ shell::Answer QtHost::ShowMessage(const shell::Message& message) {
     }
 }
 
-shell::DialogResult QtHost::ShowDialog(const shell::DialogRequest&) {
-    // The edit dialogs arrive with the pages that edit list rows.
-    throw std::logic_error("the edit dialogs are not part of this window yet");
+shell::DialogResult QtHost::ShowDialog(const shell::DialogRequest& request) {
+    EditDialogView dialog(request, parent_);
+    dialog.exec();
+    return dialog.Result();
 }
 
 std::optional<std::string> QtHost::AskInput(const std::string& prompt, const std::string& title,

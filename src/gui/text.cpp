@@ -26,4 +26,16 @@ std::string FromQt(const QString& text) {
     return bytes;
 }
 
+QString ToQtLines(const std::string& cp1252) {
+    QString text = ToQt(cp1252);
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return text;
+}
+
+std::string FromQtLines(const QString& text) {
+    QString lines = text;
+    lines.replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
+    return FromQt(lines);
+}
+
 }  // namespace qb::gui

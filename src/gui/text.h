@@ -11,4 +11,8 @@ QString ToQt(const std::string& cp1252);
 // Characters Windows-1252 can't hold become '?'.
 std::string FromQt(const QString& text);
 
+// Multi-line text: the files' CRLF line ends in the model, bare line feeds in a text widget.
+QString ToQtLines(const std::string& cp1252);
+std::string FromQtLines(const QString& text);
+
 }  // namespace qb::gui

@@ -56,6 +56,7 @@ struct DialogRequest {
     std::vector<UpDownBounds> bounds;
     std::string mode;  // "E" to edit a row, "A" to add rows
     int required = 0;
+    bool editableCombos = false;  // combos take typed text, not only their items
 };
 
 // The dialog's outcome: mode "1" after OK, "A" after Add, empty after Cancel or the close box.

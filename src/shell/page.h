@@ -70,6 +70,8 @@ class Page {
     // The public methods the main window's pop-up menus call by name (gMenuFirstAddClick...).
     bool HasMenuMethod(const std::string& method) const;
     void CallMenuMethod(const std::string& method);
+    // Told when the page pops up one of the main window's menus (mnuFirst, mnuUserActions...).
+    std::function<void(const std::string& menu)> onPopupMenu;
 
   protected:
     // The page's own part of Form_Load, between the frame's set-up and LoadSettings: columns,
@@ -93,6 +95,9 @@ class Page {
     void SetBody(Layout body) { body_ = std::move(body); }
     void SetMinimumSize(PageSize minimum) { minimum_ = minimum; }
     void PublishMenuMethod(std::string method, std::function<void()> call);
+    void ShowPopupMenu(const std::string& menu) {
+        if (onPopupMenu) onPopupMenu(menu);
+    }
 
     // Variants of the frame that a page's own description asks for.
     void SetNoRestore(bool noRestore) { noRestore_ = noRestore; }

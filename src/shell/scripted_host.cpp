@@ -1,5 +1,6 @@
 #include "shell/scripted_host.h"
 
+#include "shell/edit_dialog.h"
 #include "store/cp1252.h"
 
 namespace qb::shell {
@@ -93,25 +94,35 @@ DialogResult ScriptedHost::ShowDialog(const DialogRequest& request) {
     }
     DialogAnswer answer = std::move(dialogs_.front());
     dialogs_.pop_front();
-    DialogResult result;
-    result.fields = request.values;
-    for (size_t i = 0; i < answer.fields.size() && i < result.fields.size(); ++i) {
-        result.fields[i] = Utf8ToCp1252(answer.fields[i]);
+    // The answer is played on the dialog as the user would: each given field typed in, then the
+    // button clicked. A click the dialog ignores leaves it open, which no script can go on from.
+    EditDialog dialog(request);
+    for (size_t i = 0; i < answer.fields.size(); ++i) {
+        if (!dialog.UserSetField(static_cast<int>(i), Utf8ToCp1252(answer.fields[i]))) {
+            out_ << shown << " -> " << answer.button << " refused\n";
+            throw UnansweredPrompt("the dialog takes no " + answer.fields[i] + " in field " +
+                                   std::to_string(i) + ": " + shown);
+        }
     }
+    std::optional<DialogResult> result;
     if (answer.button == "OK") {
-        result.mode = "1";
+        result = dialog.ClickOK();
     } else if (answer.button == "Add") {
-        result.mode = "A";
+        result = dialog.ClickAdd();
     } else {
-        result = DialogResult{};
+        result = dialog.ClickCancel();
+    }
+    if (!result) {
+        out_ << shown << " -> " << answer.button << " refused\n";
+        throw UnansweredPrompt("the dialog ignores " + answer.button + ": " + shown);
     }
     std::string line = shown + " -> " + answer.button;
-    if (!result.mode.empty()) {
-        for (const auto& field : result.fields)
-            line += " " + QuoteIfNeeded(Cp1252ToUtf8(field));
+    if (!result->mode.empty()) {
+        for (size_t i = 0; i < dialog.Fields().size(); ++i)
+            line += " " + QuoteIfNeeded(Cp1252ToUtf8(result->fields[i]));
     }
     out_ << line << "\n";
-    return result;
+    return *result;
 }
 
 std::optional<std::string> ScriptedHost::AskInput(const std::string& prompt,

