@@ -43,11 +43,15 @@ std::vector<NodeSpec> ArchivePages() {
             {.text = "RightClicks"}};
 }
 
+bool EveryEdition(std::string_view, store::ProgramVersion) {
+    return true;
+}
+
 std::vector<GroupSpec> Groups() {
     std::vector<GroupSpec> groups = {
         {"General",
          "General",
-         Editions({}),
+         EveryEdition,
          true,
          {{.text = "Settings"},
           {.text = "Bots"},
