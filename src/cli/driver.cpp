@@ -254,6 +254,10 @@ void Driver::Execute(const std::vector<std::string>& words) {
     } else if (action == "menu") {
         Need(words, 2, 2, "menu ENTRY|METHOD");
         MenuClick(words[1]);
+    } else if (action == "edit") {
+        // What a page's edit button does for a text file: the editor opens on it.
+        Need(words, 2, 3, "edit FILE [E|N]");
+        host_.OpenTextEditor(Utf8ToCp1252(words[1]), words.size() == 3 ? words[2] : "E");
     } else if (action == "window") {
         Need(words, 2, 2, "window N");
         Refused(container_.ClickWindowsMenu(ParseNumber(words[1], "N")),
