@@ -68,6 +68,8 @@ const char* KindName(ControlKind kind) {
             return "frame";
         case ControlKind::Button:
             return "button";
+        case ControlKind::Tooltip:
+            return "tooltip";
     }
     return "?";
 }
@@ -158,6 +160,13 @@ void ControlJson(std::string& out, const Control& control) {
         case ControlKind::Button:
             json.Text("caption", control.Caption());
             break;
+        case ControlKind::Tooltip: {
+            const auto& tip = static_cast<const shell::Tooltip&>(control);
+            json.Text("parent", tip.Parent());
+            json.Text("title", tip.Title());
+            json.Text("text", tip.TipText());
+            break;
+        }
         case ControlKind::StatusBar:
             break;
     }

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCursor>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -14,6 +15,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QToolTip>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -159,6 +161,30 @@ PageView::PageView(shell::Page& page, QWidget* parent) : QWidget(parent), page_(
     syncStatus();
     outer->addWidget(bar);
     bound_.push_back(&toolbar);
+
+    // Balloons stand over their parent control while they exist.
+    for (const auto& control : page.Controls()) {
+        if (control->Kind() != ControlKind::Tooltip) continue;
+        auto& tip = static_cast<shell::Tooltip&>(*control);
+        tip.SetListener([this, &tip] { ShowTooltip(tip); });
+        bound_.push_back(&tip);
+    }
+}
+
+void PageView::ShowTooltip(const shell::Tooltip& tip) {
+    auto* parent = findChild<QWidget*>(QString::fromStdString(tip.Parent()));
+    if (!tip.Visible() || parent == nullptr) {
+        QToolTip::hideText();
+        return;
+    }
+    QString text =
+        ToQt(tip.TipText()).toHtmlEscaped().replace(QStringLiteral("\r\n"), QStringLiteral("<br>"));
+    if (!tip.Title().empty()) {
+        text = QStringLiteral("<b>%1</b><br>").arg(ToQt(tip.Title()).toHtmlEscaped()) + text;
+    }
+    const QPoint at =
+        tip.Centered() ? parent->rect().center() : parent->mapFromGlobal(QCursor::pos());
+    QToolTip::showText(parent->mapToGlobal(at), text, parent, {}, tip.VisibleTime());
 }
 
 PageView::~PageView() {
@@ -326,6 +352,7 @@ QWidget* PageView::Build(const shell::Control& constControl) {
             return group;
         }
         case ControlKind::StatusBar:
+        case ControlKind::Tooltip:
             break;
     }
     return new QWidget;

@@ -25,6 +25,7 @@ class PageView : public QWidget {
     std::function<void(shell::ListControl& list, int row)> onListRightClick;
 
   private:
+    void ShowTooltip(const shell::Tooltip& tip);
     QWidget* Build(const shell::Control& control);
     QLayout* BuildLayout(const shell::Layout& layout);
 

@@ -357,4 +357,26 @@ bool Button::UserClick() {
     return true;
 }
 
+// ---- Tooltip --------------------------------------------------------------------------------
+
+void Tooltip::Create(const Control& parent) {
+    parent_ = parent.Name();
+    SetVisible(true);
+    Changed();
+}
+
+void Tooltip::Destroy() {
+    SetVisible(false);
+}
+
+void Tooltip::SetTitle(std::string title) {
+    title_ = std::move(title);
+    Changed();
+}
+
+void Tooltip::SetTipText(std::string text) {
+    text_ = std::move(text);
+    Changed();
+}
+
 }  // namespace qb::shell

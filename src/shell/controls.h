@@ -21,7 +21,8 @@ enum class ControlKind {
     UpDown,
     Label,
     Frame,
-    Button
+    Button,
+    Tooltip
 };
 
 class Control {
@@ -318,6 +319,45 @@ class Button : public Control {
     }
     std::function<void()> onClick;
     bool UserClick();
+};
+
+// CTooltip: a balloon that a page shows on one of its controls, with a title and a text. It is
+// no part of the page's layout; it stands over its parent control while it exists.
+class Tooltip : public Control {
+  public:
+    explicit Tooltip(std::string name) : Control(ControlKind::Tooltip, std::move(name)) {
+        SetVisible(false);
+    }
+
+    // The balloon over `parent`, with the look set so far; Destroy takes it away.
+    void Create(const Control& parent);
+    void Destroy();
+    const std::string& Parent() const { return parent_; }
+
+    bool Style() const { return balloon_; }  // true: a balloon, else a plain tip
+    void SetStyle(bool balloon) { balloon_ = balloon; }
+    bool Centered() const { return centered_; }
+    void SetCentered(bool centered) { centered_ = centered; }
+    const std::string& Title() const { return title_; }
+    void SetTitle(std::string title);
+    const std::string& TipText() const { return text_; }
+    void SetTipText(std::string text);
+    int Icon() const { return icon_; }  // 0 none, 1 information, 2 warning, 3 error
+    void SetIcon(int icon) { icon_ = icon; }
+    int VisibleTime() const { return visibleTime_; }  // milliseconds
+    void SetVisibleTime(int milliseconds) { visibleTime_ = milliseconds; }
+    int DelayTime() const { return delayTime_; }
+    void SetDelayTime(int milliseconds) { delayTime_ = milliseconds; }
+
+  private:
+    std::string parent_;
+    std::string title_;
+    std::string text_;
+    bool balloon_ = true;
+    bool centered_ = false;
+    int icon_ = 1;
+    int visibleTime_ = 8000;
+    int delayTime_ = 500;
 };
 
 }  // namespace qb::shell
