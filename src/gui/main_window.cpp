@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -59,8 +60,13 @@ PageWindow::PageWindow(shell::Container& container, PageView* view)
     setAttribute(Qt::WA_DeleteOnClose, false);
     setWindowTitle(view->windowTitle());
     setObjectName(view->objectName());
+    setWindowIcon(WindowIcon());
     setMinimumSize(view->MinimumPixels());
-    resize(view->InitialPixels().expandedTo(view->MinimumPixels()));
+    // Opened at least wide enough for its whole caption; it may be made as small as the page's
+    // minimum.
+    const int titleWidth = fontMetrics().horizontalAdvance(windowTitle()) +
+                           4 * style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    resize(view->InitialPixels().expandedTo(view->MinimumPixels()).expandedTo({titleWidth, 0}));
 }
 
 void PageWindow::CloseForGood() {
@@ -315,6 +321,8 @@ void MainWindow::SyncStatus() {
         const auto& panel = status.Panel(i);
         QLabel* label = panels_[static_cast<size_t>(i - 1)];
         label->setText(ToQt(panel.text));
+        // A news panel with nothing to tell takes no room.
+        if (i > 2) label->setVisible(!panel.text.empty() || i == status.Count());
         label->setToolTip(ToQt(panel.tip));
         if (i < status.Count()) label->setMinimumWidth(Pixels(std::max(0, panel.width)));
     }
