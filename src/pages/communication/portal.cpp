@@ -59,6 +59,9 @@ class PortalPage : public Page, private hublink::PortalValues {
         lvwHubs.onDoubleClick = [this](int) { EditRow(hubs_); };
         lvwNicks.onDoubleClick = [this](int) { EditRow(nicks_); };
         lvwHubs.onItemCheck = [this](int row) { HubTicked(row); };
+        // A right click selects the row and pops up the hubs' or the nicks' menu.
+        lvwHubs.onRightClick = [this](int) { ShowPopupMenu("mnuFirst"); };
+        lvwNicks.onRightClick = [this](int) { ShowPopupMenu("mnuSecond"); };
         PublishMenuMethod("gMenuFirstAddClick", [this] { AddRows(hubs_); });
         PublishMenuMethod("gMenuFirstDeleteClick", [this] { DeleteRow(hubs_); });
         PublishMenuMethod("gMenuFirstEditClick", [this] { EditRow(hubs_); });
