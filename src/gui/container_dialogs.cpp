@@ -124,8 +124,12 @@ AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
 }
 
 QString SystemInformation() {
+    return SystemInformation(QStringLiteral(QB_SYSINFO_COMMAND), QStringLiteral(QB_SYSINFO_FILE));
+}
+
+QString SystemInformation(const QString& commandLine, const QString& fileName) {
     QString found;
-    const QStringList command = QProcess::splitCommand(QStringLiteral(QB_SYSINFO_COMMAND));
+    const QStringList command = QProcess::splitCommand(commandLine);
     if (!command.isEmpty()) {
         QProcess process;
         process.start(command.front(), command.mid(1));
@@ -135,7 +139,7 @@ QString SystemInformation() {
                      QStringLiteral("\n\n");
         }
     }
-    QFile file(QStringLiteral(QB_SYSINFO_FILE));
+    QFile file(fileName);
     if (file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         found += QString::fromUtf8(file.readAll()).trimmed() + QStringLiteral("\n\n");
     }

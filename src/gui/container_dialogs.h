@@ -30,9 +30,10 @@ class AboutDialog : public QDialog {
     explicit AboutDialog(QWidget* parent = nullptr);
 };
 
-// The details of this system: the output of the configured command (uname -a), the configured
-// file (/etc/os-release), the Qt version and the screens. Empty when neither the command nor the
-// file gives anything.
+// The details of this system: the output of `command`, the text of `file`, the Qt version and
+// the screens. Empty when neither the command nor the file gives anything.
+QString SystemInformation(const QString& command, const QString& file);
+// The same from the configured command and file (uname -a, /etc/os-release).
 QString SystemInformation();
 
 // cmdSysInfo: the details in a dialog of their own, or the message that there are none.

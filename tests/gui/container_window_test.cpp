@@ -317,6 +317,13 @@ class ContainerWindowTest : public QObject {
         const QString details = SystemInformation();
         QVERIFY(details.contains(QStringLiteral("Linux")));
         QVERIFY(details.contains(QStringLiteral("Qt ")));
+        // With neither source there is nothing to show, and the button says so instead.
+        QVERIFY(SystemInformation(QStringLiteral("quillbook-no-such-program"),
+                                  QStringLiteral("/nonexistent/os-release"))
+                    .isEmpty());
+        QVERIFY(!SystemInformation(QStringLiteral("quillbook-no-such-program"),
+                                   QStringLiteral("/proc/version"))
+                     .isEmpty());
     }
 
   private:
