@@ -1,6 +1,7 @@
 #include "cli/driver.h"
 
 #include <charconv>
+#include <map>
 
 #include "cli/page_json.h"
 #include "shell/about.h"
@@ -266,19 +267,27 @@ void Driver::Execute(const std::vector<std::string>& words) {
         Need(words, 1, 2, "windows [ROW|Cancel]");
         ShowAllWindows(words.size() == 2 ? words[1] : "");
     } else if (action == "answer") {
-        Need(words, 2, 2, "answer OK|Cancel|Yes|No");
-        const std::string& word = words[1];
-        if (word == "OK") {
-            host_.QueueAnswer(shell::Answer::OK);
-        } else if (word == "Cancel") {
-            host_.QueueAnswer(shell::Answer::Cancel);
-        } else if (word == "Yes") {
-            host_.QueueAnswer(shell::Answer::Yes);
-        } else if (word == "No") {
-            host_.QueueAnswer(shell::Answer::No);
-        } else {
-            throw ScriptError("answer takes OK, Cancel, Yes or No");
+        Need(words, 2, 3, "answer OK|Cancel|Yes|No [ICON]");
+        static const std::map<std::string, shell::Answer> answers = {
+            {"OK", shell::Answer::OK},
+            {"Cancel", shell::Answer::Cancel},
+            {"Yes", shell::Answer::Yes},
+            {"No", shell::Answer::No}};
+        const auto answer = answers.find(words[1]);
+        if (answer == answers.end()) throw ScriptError("answer takes OK, Cancel, Yes or No");
+        std::optional<shell::Icon> icon;
+        if (words.size() == 3) {
+            for (shell::Icon each :
+                 {shell::Icon::None, shell::Icon::Information, shell::Icon::Question,
+                  shell::Icon::Exclamation, shell::Icon::Critical}) {
+                if (shell::IconName(each) == words[2]) icon = each;
+            }
+            if (!icon) {
+                throw ScriptError(
+                    "the icon is one of none, information, question, exclamation, critical");
+            }
         }
+        host_.QueueAnswer(answer->second, icon);
     } else if (action == "dialog") {
         Need(words, 2, 6, "dialog OK|Add|Cancel|Close [FIELD...]");
         if (words[1] != "OK" && words[1] != "Add" && words[1] != "Cancel" && words[1] != "Close") {

@@ -22,6 +22,22 @@ std::string AnswerName(Answer answer) {
     return "?";
 }
 
+std::string IconName(Icon icon) {
+    switch (icon) {
+        case Icon::None:
+            return "none";
+        case Icon::Information:
+            return "information";
+        case Icon::Question:
+            return "question";
+        case Icon::Exclamation:
+            return "exclamation";
+        case Icon::Critical:
+            return "critical";
+    }
+    return "?";
+}
+
 std::string QuoteIfNeeded(const std::string& utf8) {
     if (!utf8.empty() && utf8.find(' ') == std::string::npos &&
         utf8.find('"') == std::string::npos) {
@@ -68,9 +84,12 @@ Answer ScriptedHost::ShowMessage(const Message& message) {
     const std::string shown =
         "message: " + Cp1252ToUtf8(message.title) + ": " + Cp1252ToUtf8(message.text);
     std::optional<Answer> given;
+    std::optional<Icon> icon;
     if (!answers_.empty()) {
         given = answers_.front();
         answers_.pop_front();
+        icon = icons_.front();
+        icons_.pop_front();
     } else if (answerUnqueued) {
         given = answerUnqueued(message);
     }
@@ -82,6 +101,10 @@ Answer ScriptedHost::ShowMessage(const Message& message) {
     out_ << shown << " -> " << AnswerName(answer) << "\n";
     if (!Fits(answer, message.buttons)) {
         throw UnansweredPrompt("the box has no " + AnswerName(answer) + " button: " + shown);
+    }
+    if (icon && *icon != message.icon) {
+        throw UnansweredPrompt("the box shows the " + IconName(message.icon) + " icon, not " +
+                               IconName(*icon) + ": " + shown);
     }
     return answer;
 }

@@ -32,7 +32,11 @@ class ScriptedHost : public Host {
     // Prompts are written to `transcript` as UTF-8, one line each.
     explicit ScriptedHost(std::ostream& transcript) : out_(transcript) {}
 
-    void QueueAnswer(Answer answer) { answers_.push_back(answer); }
+    // `icon`, when given, is the icon the box must show: a box with another is an error.
+    void QueueAnswer(Answer answer, std::optional<Icon> icon = std::nullopt) {
+        answers_.push_back(answer);
+        icons_.push_back(icon);
+    }
     void QueueDialog(DialogAnswer answer) { dialogs_.push_back(std::move(answer)); }
     void QueueInput(std::optional<std::string> text) { inputs_.push_back(std::move(text)); }
     void QueueFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
@@ -58,6 +62,7 @@ class ScriptedHost : public Host {
   private:
     std::ostream& out_;
     std::deque<Answer> answers_;
+    std::deque<std::optional<Icon>> icons_;  // beside answers_
     std::deque<DialogAnswer> dialogs_;
     std::deque<std::optional<std::string>> inputs_;
     std::deque<std::optional<std::string>> files_;
@@ -65,5 +70,8 @@ class ScriptedHost : public Host {
 
 // A value as the script syntax writes it: double quoted when it holds a blank or is empty.
 std::string QuoteIfNeeded(const std::string& utf8);
+
+// "information", "question", "exclamation", "critical" or "none".
+std::string IconName(Icon icon);
 
 }  // namespace qb::shell
