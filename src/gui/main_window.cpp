@@ -1,5 +1,6 @@
 #include "gui/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
 #include <QHBoxLayout>
@@ -148,6 +149,13 @@ MainWindow::MainWindow(shell::Container& container) : container_(container), are
     container_.onPopupMenu = [this](shell::Page&, const std::string& menu) { ShowPopup(menu); };
     container_.onNavigationChanged = [this] { SyncNavigation(); };
     container_.onWindowsChanged = [this] { SyncWindowsMenu(); };
+    container_.onBusy = [](bool busy) {
+        if (busy) {
+            QApplication::setOverrideCursor(Qt::WaitCursor);
+        } else {
+            QApplication::restoreOverrideCursor();
+        }
+    };
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         auto* pageWindow = qobject_cast<PageWindow*>(window);
         if (pageWindow == nullptr) return;
@@ -166,6 +174,7 @@ MainWindow::~MainWindow() {
     container_.onPopupMenu = nullptr;
     container_.onNavigationChanged = nullptr;
     container_.onWindowsChanged = nullptr;
+    container_.onBusy = nullptr;
     container_.Status().SetListener(nullptr);
     // The views go before the pages they show.
     for (QMdiSubWindow* window : area_->subWindowList())

@@ -126,6 +126,15 @@ void Container::NavigationChanged() const {
 // ---- Pages ---------------------------------------------------------------------------------
 
 Page* Container::OpenFunctionPage(std::string key) {
+    struct Busy {
+        const std::function<void(bool)>& tell;
+        explicit Busy(const std::function<void(bool)>& t) : tell(t) {
+            if (tell) tell(true);
+        }
+        ~Busy() {
+            if (tell) tell(false);
+        }
+    } busy(onBusy);
     if (key.empty()) key = selectedNode_;
     Page* page = nullptr;
     const bool function = IsFunctionKey(key);

@@ -128,6 +128,8 @@ class Container {
     std::function<void(Page&, const std::string& menu)> onPopupMenu;
     std::function<void()> onNavigationChanged;
     std::function<void()> onWindowsChanged;
+    // Told when a page starts and ends loading: the window shows the hourglass meanwhile.
+    std::function<void(bool busy)> onBusy;
 
   private:
     Page& Adopt(std::unique_ptr<Page> page);
