@@ -7,6 +7,7 @@
 namespace qb::pages {
 
 void RegisterAllPages(shell::PageRegistry& registry, const PageServices& services) {
+    RegisterGeneralPages(registry);
     RegisterCommunicationPages(registry, services);
     RegisterSecurityPages(registry);
 }

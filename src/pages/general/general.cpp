@@ -1,8 +1,14 @@
 #include "pages/general/general.h"
 
+#include "pages/general/news.h"
 #include "pages/general/switches.h"
 
 namespace qb::pages {
+
+void RegisterGeneralPages(shell::PageRegistry& registry) {
+    RegisterNewsPages(registry);
+    RegisterSwitchPages(registry);
+}
 
 void RegisterGeneralBuilders(store::BuilderRegistry& builders) {
     RegisterBotBuilders(builders);

@@ -1,11 +1,15 @@
 #pragma once
 // The general functions: the scripts' global settings, their bots, the function switches and the
-// news. Their files and the builders of those files; the pages come with their own sources.
+// news. Their files, the builders of those files and their pages.
 
+#include "shell/page_registry.h"
 #include "store/builders.h"
 #include "store/schema.h"
 
 namespace qb::pages {
+
+// The general functions' pages.
+void RegisterGeneralPages(shell::PageRegistry& registry);
 
 // The general area's builders, folder by folder.
 void RegisterGeneralBuilders(store::BuilderRegistry& builders);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "shell/controls.h"
+#include "shell/page_registry.h"
 #include "store/schema.h"
 #include "store/table_files.h"
 
@@ -35,5 +36,8 @@ std::string NewsText(const shell::ListControl& list);
 // (when one is given).
 void LoadNews(store::TableFiles& files, shell::ListControl& lvwNews,
               shell::StatusBar* stsContainer);
+
+// frmGeneralNews: the news rows, to read and delete.
+void RegisterNewsPages(shell::PageRegistry& registry);
 
 }  // namespace qb::pages

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/page_registry.h"
 #include "store/builders.h"
 #include "store/schema.h"
 
@@ -24,6 +25,9 @@ const std::vector<SwitchKey>& SwitchKeys();
 const store::FileSchema& SwitchesSchema();
 // General\Globals\EnableRightClicks.tbl, table tEnableRightClicks.
 const store::FileSchema& EnableRightClicksSchema();
+
+// frmGeneralSwitches and frmGeneralRightClicks, one check list of each file's switches.
+void RegisterSwitchPages(shell::PageRegistry& registry);
 
 // Both reset files, Switches.tbl first.
 void RegisterSwitchBuilders(store::BuilderRegistry& builders);
