@@ -44,8 +44,6 @@ int main(int argc, char** argv) {
     pages::RegisterAllBuilders(builders);
     // A Cancel at the rebuild prompt ends the program with status 3, as the command line does.
     if (!gui::StartBeforeWindow(container, builders)) return gui::FatalErrorShown() ? 1 : 3;
-    gui::Guard([&] { container.SetupStatusBar(); });
-    if (gui::FatalErrorShown()) return 1;
 
     gui::MainWindow window(container);
     host.SetParent(&window);

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QToolTip>
@@ -166,7 +167,17 @@ PageView::PageView(shell::Page& page, QWidget* parent) : QWidget(parent), page_(
     for (const auto& control : page.Controls()) {
         if (control->Kind() != ControlKind::Tooltip) continue;
         auto& tip = static_cast<shell::Tooltip&>(*control);
-        tip.SetListener([this, &tip] { ShowTooltip(tip); });
+        // The balloon comes after the tip's delay, so that the click that asked for it is over:
+        // a tip goes away at any click.
+        tip.SetListener([this, &tip] {
+            if (!tip.Visible()) {
+                QToolTip::hideText();
+                return;
+            }
+            AfterDispatch(this, [this, &tip] {
+                QTimer::singleShot(tip.DelayTime(), this, [this, &tip] { ShowTooltip(tip); });
+            });
+        });
         bound_.push_back(&tip);
     }
 }

@@ -10,7 +10,10 @@ bool StartBeforeWindow(shell::Container& container, const store::BuilderRegistry
     bool ready = false;
     Guard([&] {
         ready = shell::RunStartChecks(container, builders) == shell::StartResult::Ready;
-        if (ready) pages::LoadNews(container.Files(), container.News(), nullptr);
+        if (!ready) return;
+        // The status bar before the news, which shows its last article in panels 3 and 4.
+        container.SetupStatusBar();
+        pages::LoadNews(container.Files(), container.News(), &container.Status());
     });
     return ready && !FatalErrorShown();
 }

@@ -1,7 +1,7 @@
 #pragma once
-// The main window's load up to the news, run before the window opens: the version and profile
-// checks ask in real message boxes, and a Cancel ends the program before any page can open on a
-// tree that doesn't match.
+// The main window's load after its navigation, run before the window opens: the version and
+// profile checks ask in real message boxes, and a Cancel ends the program before any page can
+// open on a tree that doesn't match; then the status bar and the news.
 
 #include "shell/container.h"
 #include "store/builders.h"

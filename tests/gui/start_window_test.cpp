@@ -1,11 +1,13 @@
 // The start before the window opens, with the rebuild question in a real message box.
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
 #include <filesystem>
 
+#include "gui/main_window.h"
 #include "gui/qt_host.h"
 #include "gui/start.h"
 #include "pages/pages.h"
@@ -53,6 +55,27 @@ class StartWindowTest : public QObject {
                  QStringLiteral("tVersion = {\r\n\tsVersion = \"5.3.0\",\r\n}\r\n"));
         QVERIFY(
             fs::exists(hub_->Settings() / "Security" / "CommandSpy" / "CommandSpySettings.tbl"));
+    }
+
+    void theWindowOpensWithTheVersionAndTheLastArticleInItsStatusBar() {
+        hub_->Write("scripts/Vandrell's Scripts/News/News.tbl",
+                    test::Crlf({"tNews = {", "\t[7] = \"2026-01-02|Older|Old story|1\",",
+                                "\t[8] = \"2026-02-03|Quillbook 5.3|All about it|1\",", "}"}));
+        container_->FillNavigation();
+        AnswerNextBox(QMessageBox::Ok);
+        QVERIFY(StartBeforeWindow(*container_, builders_));
+        MainWindow window(*container_);
+        window.show();
+        QCOMPARE(window.StatusPanel(1)->text(), QStringLiteral("Installed Version = 5.3.0"));
+        QCOMPARE(window.StatusPanel(2)->text(), QStringLiteral("Current Version = Unknown"));
+        QCOMPARE(window.StatusPanel(3)->text(), QStringLiteral("Quillbook 5.3"));
+        QCOMPARE(window.StatusPanel(3)->toolTip(), QStringLiteral("Click to read news"));
+        QCOMPARE(window.StatusPanel(4)->text(), QStringLiteral("All about it"));
+        // The news panel invites a click that does nothing, and the current version is the
+        // installed one: no box opens.
+        QTest::mouseClick(window.StatusPanel(3), Qt::LeftButton);
+        QTest::mouseClick(window.StatusPanel(2), Qt::LeftButton);
+        QVERIFY(QApplication::activeModalWidget() == nullptr);
     }
 
   private:
