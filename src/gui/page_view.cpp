@@ -1,5 +1,6 @@
 #include "gui/page_view.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCursor>
@@ -59,9 +60,16 @@ class ListBinding : public QTreeView {
         connect(&model_, &QAbstractItemModel::modelReset, this, [this] { SyncColumns(); });
         connect(&model_, &ListModel::selectionMoved, this,
                 [this](int row) { FollowSelection(row); });
+        // A click on a row is the user's every time, on the selected row too; the keys move the
+        // selection without a click.
+        connect(this, &QAbstractItemView::pressed, this, [this](const QModelIndex& index) {
+            if (QApplication::mouseButtons() != Qt::LeftButton) return;
+            Guard([&] { list_.UserSelect(index.row() + 1); });
+        });
         connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
                 [this](const QModelIndex& current) {
                     if (following_ || !current.isValid()) return;
+                    if (QApplication::mouseButtons() != Qt::NoButton) return;
                     const int row = current.row() + 1;
                     if (row != list_.Selected()) Guard([&] { list_.UserSelect(row); });
                 });
@@ -80,11 +88,24 @@ class ListBinding : public QTreeView {
         SyncColumns();
     }
 
+  protected:
+    // A list that gets the focus makes its first row current; that is no click of the user's.
+    void focusInEvent(QFocusEvent* event) override {
+        following_ = true;
+        QTreeView::focusInEvent(event);
+        following_ = false;
+    }
+
   private:
     void SyncColumns() {
         for (int i = 0; i < list_.ColumnCount(); ++i) {
-            const int width = Pixels(list_.Columns()[static_cast<size_t>(i)].width);
+            int width = Pixels(list_.Columns()[static_cast<size_t>(i)].width);
             setColumnHidden(i, width == 0);
+            // The widths were laid out for a smaller font: a column is never narrower than what
+            // it shows.
+            if (width > 0 && i + 1 < list_.ColumnCount()) {
+                width = std::max(width, sizeHintForColumn(i));
+            }
             if (width > 0) setColumnWidth(i, width);
         }
         header()->setVisible(list_.ColumnCount() > 0);
@@ -193,8 +214,17 @@ void PageView::ShowTooltip(const shell::Tooltip& tip) {
     if (!tip.Title().empty()) {
         text = QStringLiteral("<b>%1</b><br>").arg(ToQt(tip.Title()).toHtmlEscaped()) + text;
     }
-    const QPoint at =
-        tip.Centered() ? parent->rect().center() : parent->mapFromGlobal(QCursor::pos());
+    // Over the row the user picked, else under the mouse if it is on the control, else at its
+    // middle.
+    QPoint at = parent->rect().center();
+    auto* view = qobject_cast<QAbstractItemView*>(parent);
+    const QPoint mouse = parent->mapFromGlobal(QCursor::pos());
+    if (view != nullptr && view->currentIndex().isValid() && !tip.Centered()) {
+        const QRect row = view->visualRect(view->currentIndex());
+        at = view->viewport()->mapTo(parent, row.bottomLeft() + QPoint(row.height(), 0));
+    } else if (parent->rect().contains(mouse) && !tip.Centered()) {
+        at = mouse;
+    }
     QToolTip::showText(parent->mapToGlobal(at), text, parent, {}, tip.VisibleTime());
 }
 
