@@ -45,8 +45,7 @@ void SyncCommon(const shell::Control& control, QWidget* widget) {
 
 class ListBinding : public QTreeView {
   public:
-    explicit ListBinding(shell::ListControl& list, PageView& view)
-        : list_(list), model_(list, this) {
+    explicit ListBinding(shell::ListControl& list) : list_(list), model_(list, this) {
         setObjectName(QString::fromStdString(list.Name()));
         setModel(&model_);
         setRootIsDecorated(false);
@@ -76,14 +75,11 @@ class ListBinding : public QTreeView {
         connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
             Guard([&] { list_.UserDoubleClick(index.row() + 1); });
         });
-        connect(this, &QWidget::customContextMenuRequested, this, [this, &view](const QPoint& at) {
+        // The page pops up its menu from the right click, through the main window.
+        connect(this, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
             const QModelIndex index = indexAt(at);
             if (!index.isValid()) return;
-            Guard([&] {
-                if (list_.UserRightClick(index.row() + 1) && view.onListRightClick) {
-                    view.onListRightClick(list_, index.row() + 1);
-                }
-            });
+            Guard([&] { list_.UserRightClick(index.row() + 1); });
         });
         SyncColumns();
     }
@@ -273,7 +269,7 @@ QWidget* PageView::Build(const shell::Control& constControl) {
     const QString name = QString::fromStdString(control.Name());
     switch (control.Kind()) {
         case ControlKind::List:
-            return new ListBinding(static_cast<shell::ListControl&>(control), *this);
+            return new ListBinding(static_cast<shell::ListControl&>(control));
         case ControlKind::Text: {
             auto& text = static_cast<shell::TextBox&>(control);
             if (text.MultiLine()) {

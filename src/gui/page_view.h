@@ -21,9 +21,6 @@ class PageView : public QWidget {
     QSize MinimumPixels() const;
     QSize InitialPixels() const;
 
-    // Right click on a list row, for the main window's pop-up menus.
-    std::function<void(shell::ListControl& list, int row)> onListRightClick;
-
   private:
     void ShowTooltip(const shell::Tooltip& tip);
     QWidget* Build(const shell::Control& control);
