@@ -11,21 +11,21 @@ namespace {
 // A node as the catalogue declares it. The key is the parent's key, "~" and the text without its
 // blanks unless given; a group menu entry shows the node's text, or for a page of a function with
 // several pages the function's text, " ~ " and the page's text, unless given.
-struct NodeSpec {
+struct NodeDecl {
     std::string text;
     std::string key = {};
     std::string menuText = {};
     std::string menuKey = {};  // where an entry opens another page than its node
     bool portal = false;       // shown only with the hand-made portal switch
-    std::vector<NodeSpec> children = {};
+    std::vector<NodeDecl> children = {};
 };
 
-struct GroupSpec {
+struct GroupDecl {
     std::string key;
     std::string text;
     std::function<bool(std::string_view, store::ProgramVersion)> inEdition;
     bool button;  // the six groups of the scripts have a button; the archive groups don't
-    std::vector<NodeSpec> nodes;
+    std::vector<NodeDecl> nodes;
 };
 
 std::function<bool(std::string_view, store::ProgramVersion)> Editions(
@@ -36,7 +36,7 @@ std::function<bool(std::string_view, store::ProgramVersion)> Editions(
     };
 }
 
-std::vector<NodeSpec> ArchivePages() {
+std::vector<NodeDecl> ArchivePages() {
     return {{.text = "Link Of The Week"},
             {.text = "New Links"},
             {.text = "Permissions"},
@@ -47,8 +47,8 @@ bool EveryEdition(std::string_view, store::ProgramVersion) {
     return true;
 }
 
-std::vector<GroupSpec> Groups() {
-    std::vector<GroupSpec> groups = {
+std::vector<GroupDecl> Groups() {
+    std::vector<GroupDecl> groups = {
         {"General",
          "General",
          EveryEdition,
@@ -184,23 +184,23 @@ struct Filter {
     bool everything;  // the whole catalogue, whatever the edition shows
 };
 
-void AddNodes(CatalogueNode& parent, GroupButton* button, const std::vector<NodeSpec>& specs,
+void AddNodes(CatalogueNode& parent, GroupButton* button, const std::vector<NodeDecl>& decls,
               const std::string& functionText, const Filter& filter) {
-    for (const auto& spec : specs) {
-        if (spec.portal && !filter.portal && !filter.everything) continue;
+    for (const auto& decl : decls) {
+        if (decl.portal && !filter.portal && !filter.everything) continue;
         CatalogueNode node;
-        node.key = spec.key.empty() ? parent.key + "~" + WithoutBlanks(spec.text) : spec.key;
-        node.text = spec.text;
-        if (spec.children.empty()) {
+        node.key = decl.key.empty() ? parent.key + "~" + WithoutBlanks(decl.text) : decl.key;
+        node.text = decl.text;
+        if (decl.children.empty()) {
             if (button != nullptr) {
-                std::string text = spec.menuText;
+                std::string text = decl.menuText;
                 if (text.empty()) {
-                    text = functionText.empty() ? spec.text : functionText + " ~ " + spec.text;
+                    text = functionText.empty() ? decl.text : functionText + " ~ " + decl.text;
                 }
-                button->menu.push_back({spec.menuKey.empty() ? node.key : spec.menuKey, text});
+                button->menu.push_back({decl.menuKey.empty() ? node.key : decl.menuKey, text});
             }
         } else {
-            AddNodes(node, button, spec.children, spec.text, filter);
+            AddNodes(node, button, decl.children, decl.text, filter);
         }
         parent.children.push_back(std::move(node));
     }

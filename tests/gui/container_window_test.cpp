@@ -39,7 +39,7 @@ class ContainerWindowTest : public QObject {
         hub_->WriteSetting("General/Globals/Version.tbl",
                            test::Crlf({"tVersion = {", "\tsVersion = \"5.3.0\",", "}"}));
         files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
-        std::vector<test::StubPageSpec> pages;
+        std::vector<test::StubPageDesc> pages;
         for (const auto& key : test::TreeFunctionKeys(11))
             pages.push_back({key, "", {"gMenuFirstAddClick", "gMenuFirstEditClick"}});
         pages.push_back({"Games~Trivia~Settings", "", {}});

@@ -19,14 +19,14 @@ class ContainerTest : public ::testing::Test {
   protected:
     ContainerTest() : files_(hub_.ProgramFolder()), host_(transcript_) {}
 
-    void Start(const std::vector<test::StubPageSpec>& pages) {
+    void Start(const std::vector<test::StubPageDesc>& pages) {
         test::RegisterStubPages(registry_, pages, calls_);
         container_ = std::make_unique<Container>(files_, host_, registry_);
         container_->LoadProfiles();
         container_->FillNavigation();
     }
     void StartWith(const std::vector<std::string>& keys) {
-        std::vector<test::StubPageSpec> pages;
+        std::vector<test::StubPageDesc> pages;
         for (const auto& key : keys)
             pages.push_back({key, "", {}});
         Start(pages);

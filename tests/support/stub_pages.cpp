@@ -8,13 +8,13 @@ namespace {
 
 class StubPage : public shell::Page {
   public:
-    StubPage(shell::PageContext& context, const StubPageSpec& spec, std::vector<std::string>& calls)
-        : Page(context, spec.key,
-               spec.caption.empty() ? shell::CaptionOfKey(spec.key) : spec.caption, {3400, 6075}),
+    StubPage(shell::PageContext& context, const StubPageDesc& desc, std::vector<std::string>& calls)
+        : Page(context, desc.key,
+               desc.caption.empty() ? shell::CaptionOfKey(desc.key) : desc.caption, {3400, 6075}),
           lvwRows(Add<shell::ListControl>("lvwRows")) {
-        for (const auto& method : spec.methods) {
+        for (const auto& method : desc.methods) {
             PublishMenuMethod(
-                method, [&calls, key = spec.key, method] { calls.push_back(key + ":" + method); });
+                method, [&calls, key = desc.key, method] { calls.push_back(key + ":" + method); });
         }
         lvwRows.onRightClick = [this](int) { ShowPopupMenu("mnuFirst"); };
         SetBody(shell::Column({shell::Item(lvwRows)}));
@@ -34,11 +34,11 @@ class StubPage : public shell::Page {
 
 }  // namespace
 
-void RegisterStubPages(shell::PageRegistry& registry, const std::vector<StubPageSpec>& pages,
+void RegisterStubPages(shell::PageRegistry& registry, const std::vector<StubPageDesc>& pages,
                        std::vector<std::string>& calls) {
-    for (const auto& spec : pages) {
-        registry.Register(spec.key, [spec, &calls](shell::PageContext& context) {
-            return std::make_unique<StubPage>(context, spec, calls);
+    for (const auto& desc : pages) {
+        registry.Register(desc.key, [desc, &calls](shell::PageContext& context) {
+            return std::make_unique<StubPage>(context, desc, calls);
         });
     }
 }

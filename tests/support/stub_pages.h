@@ -10,14 +10,14 @@
 
 namespace qb::test {
 
-struct StubPageSpec {
+struct StubPageDesc {
     std::string key;
     std::string caption;               // empty: the key with " ~ "
     std::vector<std::string> methods;  // gMenu...Click methods the page publishes
 };
 
 // Registers each page; calls of their methods are appended to `calls` as "KEY:METHOD".
-void RegisterStubPages(shell::PageRegistry& registry, const std::vector<StubPageSpec>& pages,
+void RegisterStubPages(shell::PageRegistry& registry, const std::vector<StubPageDesc>& pages,
                        std::vector<std::string>& calls);
 
 // The first `count` function keys of the catalogue that have a node in the tree.
