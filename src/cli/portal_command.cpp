@@ -77,7 +77,7 @@ std::string Describe(const Event& event) {
         case Event::Kind::Relayed:
             return "relayed to hub " + std::to_string(3 - event.slot) + ": " + text;
         case Event::Kind::CutOff:
-            return "cut off: it sent more than 1 MiB without a \"|\"";
+            return "cut off: it " + text;
         case Event::Kind::ListenFailed:
             return text + " (the session goes on without it)";
         case Event::Kind::Closed:

@@ -67,11 +67,7 @@ void HubLink::Receive(int slot, std::string_view bytes) {
             (bufferPipe == std::string::npos ? s.buffer.size() : s.buffer.size() - bufferPipe - 1);
     }
     if (waiting > kMaxLineBytes) {
-        // Unlike a plain close, the cut drops the buffer: the next connection would only be cut
-        // off again by what is left of this one.
-        std::string().swap(s.buffer);
-        events_.push_back({Event::Kind::CutOff, slot, {}});
-        ConnectionLost(slot, "sent more than 1 MiB without a \"|\"");
+        CutOff(slot, "sent more than 1 MiB without a \"|\"");
         return;
     }
     s.buffer.append(bytes);
@@ -188,6 +184,14 @@ void HubLink::ConnectionLost(int slot, std::string_view why) {
     At(slot).loggedIn = false;
     actions_.push_back({Action::Kind::Close, slot, {}});
     events_.push_back({Event::Kind::Closed, slot, std::string(why)});
+}
+
+void HubLink::CutOff(int slot, std::string_view why) {
+    // Unlike a plain close, the cut drops the buffer: the next connection would only be cut off
+    // again by what is left of this one.
+    std::string().swap(At(slot).buffer);
+    events_.push_back({Event::Kind::CutOff, slot, std::string(why)});
+    ConnectionLost(slot, why);
 }
 
 void HubLink::Stop(int slot, std::string_view rowText) {

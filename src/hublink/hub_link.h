@@ -44,7 +44,7 @@ struct Event {
         NickRefused,  // the hub refused the nick; it is tried again
         BadPassword,
         Relayed,       // text: what was sent to the other hub
-        CutOff,        // more than kMaxLineBytes without a "|"
+        CutOff,        // the hub abused the link and was disconnected; text says how
         ListenFailed,  // text: why the client port couldn't be bound; the session goes on
         Closed,        // text: why
         UdpError,      // code and text: the socket's error
@@ -64,6 +64,9 @@ class HubLink {
     void Receive(int slot, std::string_view bytes);
     // The connection closed or failed: the close handler. The receive buffer is kept.
     void ConnectionLost(int slot, std::string_view why);
+    // The hub abused the link (a line too long to hold, a hub that stops reading): its
+    // connection goes with the receive buffer, and the user is told `why` ("sent more than ...").
+    void CutOff(int slot, std::string_view why);
     // The user unticked the row: "$Quit" with the row's text, then the close handler, then the
     // UDP socket closes.
     void Stop(int slot, std::string_view rowText);

@@ -27,6 +27,7 @@ FakeHub::FakeHub() {
         }
         client_ = socket;
         QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+            if (stalled_) return;
             const QByteArray bytes = socket->readAll();
             received_.append(bytes.constData(), static_cast<size_t>(bytes.size()));
         });
@@ -43,6 +44,13 @@ FakeHub::~FakeHub() {
 
 std::string FakeHub::Address() const {
     return "127.0.0.1:" + std::to_string(server_.serverPort());
+}
+
+void FakeHub::StopReading() {
+    stalled_ = true;
+    // Qt would go on reading into a buffer of its own; a small one leaves the bytes with the
+    // system, whose buffers fill and push back on the client.
+    if (client_ != nullptr) client_->setReadBufferSize(1);
 }
 
 bool FakeHub::WaitForClient() {

@@ -32,6 +32,8 @@ class FakeHub {
     void Send(std::string_view bytes);
     // The hub closes the client's connection.
     void Drop();
+    // The hub reads nothing more from the client, as a hub that hangs would.
+    void StopReading();
     // Sends `total` bytes made by `chunk` (called with the offset of each piece) without holding
     // more than a few pieces at a time; stops early when the client goes.
     void Stream(std::size_t total, const std::function<std::string(std::size_t)>& chunk);
@@ -60,6 +62,7 @@ class FakeHub {
     QTcpSocket* client_ = nullptr;
     std::string received_;
     bool gone_ = false;
+    bool stalled_ = false;
 };
 
 }  // namespace qb::test

@@ -1,6 +1,7 @@
 #include "hublink/qt/socket_sessions.h"
 
 #include <QTimer>
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <stdexcept>
@@ -182,17 +183,25 @@ void SocketSessions::DropConnection(Slot& s) {
 }
 
 void SocketSessions::Flush() {
+    std::array<bool, kSlots + 1> stalled{};
     for (const Action& action : link_.TakeActions()) {
         Slot& s = At(action.slot);
         switch (action.kind) {
-            case Action::Kind::Send:
+            case Action::Kind::Send: {
                 // A hub that is gone is simply not told.
-                if (s.connection != nullptr &&
-                    s.connection->state() == QAbstractSocket::ConnectedState) {
-                    s.connection->write(action.bytes.data(),
-                                        static_cast<qint64>(action.bytes.size()));
+                if (s.connection == nullptr ||
+                    s.connection->state() != QAbstractSocket::ConnectedState) {
+                    break;
                 }
+                const auto size = static_cast<qint64>(action.bytes.size());
+                if (s.connection->bytesToWrite() + size > kMaxPendingWrite) {
+                    stalled[static_cast<size_t>(action.slot)] = true;
+                    break;
+                }
+                s.connection->write(action.bytes.data(), size);
+                s.writePeak = std::max(s.writePeak, s.connection->bytesToWrite());
                 break;
+            }
             case Action::Kind::Close:
                 DropConnection(s);
                 s.listener.close();
@@ -202,9 +211,16 @@ void SocketSessions::Flush() {
                 break;
         }
     }
+    for (int slot = 1; slot <= kSlots; ++slot) {
+        if (stalled[static_cast<size_t>(slot)] && At(slot).connection != nullptr) {
+            link_.CutOff(slot, "stopped reading, with more than 4 MiB waiting to be sent to it");
+        }
+    }
     for (const Event& event : link_.TakeEvents()) {
         if (onEvent) onEvent(event);
     }
+    // The cut's own actions (closing the connection) are carried out now.
+    if (std::any_of(stalled.begin(), stalled.end(), [](bool cut) { return cut; })) Flush();
 }
 
 SessionsFactory SocketSessionsFactory() {

@@ -21,6 +21,9 @@ class SocketSessions : public QObject, public Sessions {
     // Reads at most this much of a connection at a time, and lets Qt hold at most four times as
     // much: with HubLink's limit on a line, a hub can't make a slot hold much more than 1 MiB.
     static constexpr qint64 kReadChunk = 64 * 1024;
+    // What may wait to be written to a hub. A hub that stops reading while the other floods it
+    // with chat would otherwise make us hold the whole flood.
+    static constexpr qint64 kMaxPendingWrite = 4 * 1024 * 1024;
 
     explicit SocketSessions(const PortalValues& values);
     ~SocketSessions() override;
@@ -35,6 +38,8 @@ class SocketSessions : public QObject, public Sessions {
     quint16 UdpPort(int slot) const;
     // Connections that were closed and still send what was written to them.
     int Closing() const;
+    // The most that ever waited to be written to the slot's hub.
+    qint64 WritePeak(int slot) const { return At(slot).writePeak; }
 
   private:
     struct Slot {
@@ -42,6 +47,7 @@ class SocketSessions : public QObject, public Sessions {
                                            // connection can't reach the next session
         QTcpServer listener;
         QUdpSocket udp;
+        qint64 writePeak = 0;
     };
     Slot& At(int slot) const;
     void Bind(int slot, const std::string& clientPort);

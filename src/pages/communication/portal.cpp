@@ -323,9 +323,8 @@ class PortalPage : public Page, private hublink::PortalValues {
         using Kind = hublink::Event::Kind;
         switch (event.kind) {
             case Kind::CutOff:
-                stsStatusBar.SetText(2, "Hub " + std::to_string(event.slot) +
-                                            " was disconnected: it sent more than 1 MiB "
-                                            "without a \"|\"");
+                stsStatusBar.SetText(
+                    2, "Hub " + std::to_string(event.slot) + " was disconnected: it " + event.text);
                 break;
             case Kind::NickRefused:
                 context_.files.Randomize();
