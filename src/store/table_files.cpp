@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <charconv>
 #include <chrono>
@@ -31,6 +33,26 @@ std::string Reason(int error) {
 std::string Shown(const std::string& scriptPath) {
     const auto native = ToNativePath(scriptPath);
     return native ? native->string() : scriptPath;
+}
+
+// A file is written to ".<name>.XXXXXX" beside it and renamed over it.
+std::string TemporaryPrefix(const fs::path& target) {
+    return "." + target.filename().string() + ".";
+}
+
+// A write cut off by a crash or a kill leaves its temporary file behind: the next write of the
+// same file clears it away, so that a folder doesn't fill with them.
+void RemoveStaleTemporaries(const fs::path& target) {
+    const std::string prefix = TemporaryPrefix(target);
+    std::error_code ec;
+    for (const auto& entry : fs::directory_iterator(target.parent_path(), ec)) {
+        const std::string name = entry.path().filename().string();
+        if (name.size() != prefix.size() + 6 || !name.starts_with(prefix)) continue;
+        const bool random = std::all_of(name.end() - 6, name.end(), [](char c) {
+            return std::isalnum(static_cast<unsigned char>(c)) != 0;
+        });
+        if (random && entry.is_regular_file(ec)) fs::remove(entry.path(), ec);
+    }
 }
 
 mode_t DefaultFileMode() {
@@ -230,7 +252,8 @@ void TableFiles::WriteTextFile(std::string_view file, std::string_view text, boo
         throw FatalError(shown, Reason(EACCES));
     }
 
-    std::string temp = (native->parent_path() / ("." + native->filename().string() + ".XXXXXX"));
+    RemoveStaleTemporaries(*native);
+    std::string temp = (native->parent_path() / TemporaryPrefix(*native)).string() + "XXXXXX";
     const int fd = ::mkstemp(temp.data());
     if (fd < 0) throw FatalError(shown, Reason(errno));
     auto fail = [&](int err) {

@@ -63,6 +63,17 @@ TEST_F(Writer, AReadOnlyFileIsFatalAndStaysAsItWas) {
     EXPECT_EQ(EntriesIn(hub.Settings()), 1u);
 }
 
+TEST_F(Writer, ClearsWhatAnInterruptedWriteOfTheSameFileLeftBehind) {
+    hub.WriteSetting(".a.tbl.Xy12Zq", "cut short");     // a write killed before its rename
+    hub.WriteSetting(".a.tbl.notes", "someone's own");  // not one of ours
+    hub.WriteSetting(".b.tbl.Xy12Zq", "another file's");
+    files.WriteTextFile("a.tbl", "whole");
+    EXPECT_FALSE(fs::exists(hub.Settings() / ".a.tbl.Xy12Zq"));
+    EXPECT_TRUE(fs::exists(hub.Settings() / ".a.tbl.notes"));
+    EXPECT_TRUE(fs::exists(hub.Settings() / ".b.tbl.Xy12Zq"));
+    EXPECT_EQ(hub.ReadSetting("a.tbl"), "whole\r\n");
+}
+
 TEST_F(Writer, KeepsTheModeOfTheFileItReplaces) {
     hub.WriteSetting("m.tbl", "x");
     fs::permissions(hub.Settings() / "m.tbl", fs::perms::owner_read | fs::perms::owner_write);
