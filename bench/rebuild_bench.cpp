@@ -38,20 +38,20 @@ struct BuiltHub {
     store::BuildRun run;
 };
 
-void Rebuild(benchmark::State& state, store::OldValues oldValues) {
+void Rebuild(benchmark::State& state, bool indexing) {
     BuiltHub built(static_cast<int>(state.range(0)));
-    built.run.oldValues = oldValues;
+    built.files.SetIndexing(indexing);
     for (auto _ : state)
         shell::RebuildSettings(built.run, built.builders);
     state.counters["profiles"] = static_cast<double>(state.range(0));
 }
 
 void RebuildIndexed(benchmark::State& state) {
-    Rebuild(state, store::OldValues::Indexed);
+    Rebuild(state, true);
 }
 
 void RebuildScanned(benchmark::State& state) {
-    Rebuild(state, store::OldValues::Scanned);
+    Rebuild(state, false);
 }
 
 // The start of a hub whose tree is up to date: profiles, checks and the news, no rebuild.

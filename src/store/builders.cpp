@@ -32,8 +32,7 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
             break;
         case FileKind::Settings: {
             // A table of P profile rows asks its file P times: the scope reads it once.
-            std::optional<TableFiles::ReadScope> scope;
-            if (run.oldValues == OldValues::Indexed) scope.emplace(run.files);
+            const TableFiles::ReadScope scope(run.files);
             // An emptied value and a missing key are one: both take the default. Rows are
             // found by profile number only, so a row keeps its value with its number.
             text = Write(schema, run, [&](const Field& field, int profile) {

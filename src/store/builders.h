@@ -18,17 +18,11 @@
 
 namespace qb::store {
 
-// How a builder reads the values a file held before: inside a read scope, from one reading of
-// the file and its index (the normal way), or key by key with the plain scanner, the reference
-// the index is measured against.
-enum class OldValues { Indexed, Scanned };
-
 struct BuildRun {
     TableFiles& files;
     int lastProfile;  // per-profile rows are written for the numbers -1 to this one
     std::string_view edition = kEdition;
     ProgramVersion version = kVersion;
-    OldValues oldValues = OldValues::Indexed;
 };
 
 // The path a builder reads a file through: absolute, so that the readers' drive test takes it as

@@ -48,6 +48,10 @@ class TableFiles {
         TableFiles& files_;
     };
 
+    // Without the index every read goes to the disk, scopes or not: the plain scanner the index
+    // must agree with, which the tests and the benchmarks measure it against.
+    void SetIndexing(bool indexing) { indexing_ = indexing; }
+
     const std::string& ProgramFolder() const { return programFolder_; }
     std::string SettingsFolder() const;  // program folder, "\Vandrell's Quillbook\Settings"
     std::string HubFolder() const;       // empty when it can't be derived
@@ -118,6 +122,7 @@ class TableFiles {
     bool slotStuck_ = false;
     std::minstd_rand random_;
     int scopes_ = 0;
+    bool indexing_ = true;
     std::unordered_map<std::string, std::string> natives_;  // script path -> Linux path
     std::unordered_map<std::string, std::unique_ptr<CachedFile>> cache_;  // by Linux path
 };

@@ -30,10 +30,9 @@ FileSchema Sample(FileKind kind = FileKind::Settings) {
 class Builders : public ::testing::Test {
   protected:
     void SetUp() override { fs::create_directories(hub.Settings() / "Test"); }
-    std::string Build(const FileSchema& schema, int lastProfile,
-                      OldValues oldValues = OldValues::Indexed) {
+    std::string Build(const FileSchema& schema, int lastProfile, bool indexing = true) {
         BuildRun run{files, lastProfile};
-        run.oldValues = oldValues;
+        files.SetIndexing(indexing);
         BuildFile(schema, run);
         return hub.ReadSetting("Test/Sample.tbl");
     }
@@ -60,9 +59,9 @@ TEST_F(Builders, ReadsTheOldFileAlikeThroughTheIndexAndTheScanner) {
                                   "\ttEnabledProfiles = {", "\t\t[0] = 1,", "\t},", "\tiCount = 3,",
                                   "}", "tOther = {", "\tsName = \"later\",", "\t[-1] = 1,", "}"});
     hub.WriteSetting("Test/Sample.tbl", old);
-    const std::string indexed = Build(Sample(), 2, OldValues::Indexed);
+    const std::string indexed = Build(Sample(), 2, true);
     hub.WriteSetting("Test/Sample.tbl", old);
-    EXPECT_EQ(Build(Sample(), 2, OldValues::Scanned), indexed);
+    EXPECT_EQ(Build(Sample(), 2, false), indexed);
     EXPECT_NE(indexed.find("sName = \"later\""), std::string::npos);
 }
 
