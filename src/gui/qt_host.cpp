@@ -32,6 +32,28 @@ QMessageBox::Icon ToQt(shell::Icon icon) {
 
 }  // namespace
 
+QStringList NameFilters(const std::string& filter) {
+    // The pages give their filters as pairs "description|patterns|description|patterns", the
+    // patterns joined by ";". The scripts' home system matches names ignoring letter case, so
+    // each letter of a pattern matches both cases: "*.tbl" finds "English.TBL" too.
+    const QStringList parts = gui::ToQt(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns;
+        for (const QChar c : parts[i + 1]) {
+            if (c == QLatin1Char(';')) {
+                patterns += QLatin1Char(' ');
+            } else if (c.isLetter() && c.toLower() != c.toUpper()) {
+                patterns += QLatin1Char('[') + c.toLower() + c.toUpper() + QLatin1Char(']');
+            } else {
+                patterns += c;
+            }
+        }
+        filters << parts[i] + QStringLiteral(" (") + patterns + QLatin1Char(')');
+    }
+    return filters;
+}
+
 shell::Answer QtHost::ShowMessage(const shell::Message& message) {
     QMessageBox box(ToQt(message.icon), gui::ToQt(message.title), gui::ToQt(message.text),
                     QMessageBox::NoButton, parent_);
@@ -79,11 +101,17 @@ std::optional<std::string> QtHost::AskInput(const std::string& prompt, const std
 std::optional<std::string> QtHost::AskFile(const std::string& title, const std::string& filter,
                                            const std::string& initialFolder) {
     const auto folder = store::ToNativePath(initialFolder);
-    const QString chosen = QFileDialog::getOpenFileName(
-        parent_, gui::ToQt(title), folder ? QString::fromStdString(folder->string()) : QString(),
-        gui::ToQt(filter));
-    if (chosen.isEmpty()) return std::nullopt;
-    return store::ToScriptPath(chosen.toStdString());
+    QFileDialog dialog(parent_, gui::ToQt(title),
+                       folder ? QString::fromStdString(folder->string()) : QString());
+    dialog.setObjectName(QStringLiteral("dlgDialog"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters(NameFilters(filter));
+    // The filters read as the pages word them, "(*.TBL)", without Qt's pattern behind.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return store::ToScriptPath(dialog.selectedFiles().front().toStdString());
 }
 
 void QtHost::OpenTextEditor(const std::string& file, const std::string& mode) {

@@ -1,12 +1,16 @@
 #pragma once
 // The platform for the pages in the desktop window: real message boxes and dialogs.
 
+#include <QStringList>
 #include <QWidget>
 #include <functional>
 
 #include "shell/host.h"
 
 namespace qb::gui {
+
+// A page's file filter, "(*.TBL)|*.tbl", as the file dialog's name filters.
+QStringList NameFilters(const std::string& filter);
 
 class QtHost : public shell::Host {
   public:

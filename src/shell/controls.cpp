@@ -180,6 +180,15 @@ void Toolbar::AddMenuEntry(const std::string& buttonKey, std::string key, std::s
     throw std::out_of_range(Name() + ": no button " + buttonKey);
 }
 
+void Toolbar::RemoveButton(const std::string& key) {
+    const auto at = std::find_if(buttons_.begin(), buttons_.end(), [&](const ToolButton& button) {
+        return !button.separator && button.key == key;
+    });
+    if (at == buttons_.end()) throw std::out_of_range(Name() + ": no button " + key);
+    buttons_.erase(at);
+    Changed();
+}
+
 void Toolbar::Clear() {
     buttons_.clear();
     Changed();

@@ -167,6 +167,8 @@ class Toolbar : public Control {
     void AddButton(std::string key, std::string tip, std::string image);
     void AddSeparator();
     void AddMenuEntry(const std::string& buttonKey, std::string key, std::string text);
+    // Takes a button out; the buttons behind it move up one number.
+    void RemoveButton(const std::string& key);
     void Clear();
     int Count() const { return static_cast<int>(buttons_.size()); }
     const ToolButton& Button(int index) const {

@@ -161,9 +161,11 @@ std::optional<std::string> ScriptedHost::AskInput(const std::string& prompt,
     return answer;
 }
 
-std::optional<std::string> ScriptedHost::AskFile(const std::string& title, const std::string&,
-                                                 const std::string&) {
-    const std::string shown = "file: " + Cp1252ToUtf8(title);
+std::optional<std::string> ScriptedHost::AskFile(const std::string& title,
+                                                 const std::string& filter,
+                                                 const std::string& initialFolder) {
+    const std::string shown = "file: " + Cp1252ToUtf8(title) + ": " + Cp1252ToUtf8(filter) + ": " +
+                              Cp1252ToUtf8(initialFolder);
     if (files_.empty()) {
         out_ << shown << " -> ?\n";
         throw UnansweredPrompt("no answer queued for: " + shown);

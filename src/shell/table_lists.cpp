@@ -39,4 +39,9 @@ void LoadFileNameRows(store::TableFiles& files, std::string_view file, ListContr
     }
 }
 
+std::string NewRowKey(store::TableFiles& files, int count) {
+    return std::to_string(count) + "*" + store::FormatGeneral(files.NextRandom() * 10000000.0) +
+           "*ID";
+}
+
 }  // namespace qb::shell

@@ -1,6 +1,7 @@
 #pragma once
 // The list readers as pages call them: straight into a list control.
 
+#include <string>
 #include <string_view>
 
 #include "shell/controls.h"
@@ -21,5 +22,10 @@ void ApplyTableValues(store::TableFiles& files, std::string_view file, std::stri
 // Appends a row per file name of the table.
 void LoadFileNameRows(store::TableFiles& files, std::string_view file, ListControl& list,
                       std::string_view table);
+
+// The key of a row the user adds to a list that then holds `count` rows: the count, "*", a random
+// number scaled by 10000000 and "*ID". Its randomness only keeps it apart from the keys the list
+// holds; no key reaches a file.
+std::string NewRowKey(store::TableFiles& files, int count);
 
 }  // namespace qb::shell

@@ -25,6 +25,21 @@ unsigned char FoldByte(unsigned char b) {
     }
 }
 
+unsigned char UpperByte(unsigned char b) {
+    if (b >= 'a' && b <= 'z') return static_cast<unsigned char>(b - 32);
+    if (b >= 0xE0 && b <= 0xFE && b != 0xF7) return static_cast<unsigned char>(b - 32);
+    switch (b) {
+        case 0x9A:  // s caron
+        case 0x9C:  // oe
+        case 0x9E:  // z caron
+            return static_cast<unsigned char>(b - 16);
+        case 0xFF:  // y diaeresis
+            return 0x9F;
+        default:
+            return b;
+    }
+}
+
 std::vector<std::string> Components(std::string_view text) {
     std::vector<std::string> parts;
     std::string current;
@@ -46,6 +61,13 @@ std::string FoldCase(std::string_view cp1252) {
     std::string out(cp1252);
     for (char& c : out)
         c = static_cast<char>(FoldByte(static_cast<unsigned char>(c)));
+    return out;
+}
+
+std::string UpperCase(std::string_view cp1252) {
+    std::string out(cp1252);
+    for (char& c : out)
+        c = static_cast<char>(UpperByte(static_cast<unsigned char>(c)));
     return out;
 }
 

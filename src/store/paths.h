@@ -33,4 +33,7 @@ std::string HubFolderOf(std::string_view programFolder);
 // Letter case folded the way the scripts' home system compares file names (Windows-1252 letters).
 std::string FoldCase(std::string_view cp1252);
 
+// The upper case form of a Windows-1252 text, letter for letter ("English" gives "ENGLISH").
+std::string UpperCase(std::string_view cp1252);
+
 }  // namespace qb::store

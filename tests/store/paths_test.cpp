@@ -53,6 +53,19 @@ TEST(Paths, FoldCaseCoversTheLettersOfWindows1252) {
     EXPECT_EQ(FoldCase("\xD7\xF7"), "\xD7\xF7");  // the multiplication and division signs
 }
 
+TEST(Paths, UpperCaseIsTheOtherSideOfFoldCase) {
+    EXPECT_EQ(UpperCase("abc\xE9\x9A\xFF"), "ABC\xC9\x8A\x9F");
+    // Every byte: upper case folds back to what the byte folds to, and only letters change.
+    for (int b = 0; b < 256; ++b) {
+        const std::string byte(1, static_cast<char>(b));
+        EXPECT_EQ(FoldCase(UpperCase(byte)), FoldCase(byte)) << b;
+        if (FoldCase(byte) == byte && UpperCase(byte) != byte) {
+            EXPECT_NE(FoldCase(UpperCase(byte)), UpperCase(byte)) << b;
+        }
+    }
+    EXPECT_EQ(UpperCase("\xDF\xF7\xB5"), "\xDF\xF7\xB5");  // sharp s, division, micro
+}
+
 TEST(Cp1252, EveryByteSurvivesARoundTripThroughUtf8) {
     std::string all;
     for (int b = 0; b < 256; ++b)

@@ -178,10 +178,7 @@ class PortalPage : public Page, private hublink::PortalValues {
 
     // ---- Rows ---------------------------------------------------------------------------------
 
-    std::string NewRowKey(int count) {
-        return std::to_string(count) + "*" +
-               store::FormatGeneral(context_.files.NextRandom() * 10000000.0) + "*ID";
-    }
+    std::string NewRowKey(int count) { return shell::NewRowKey(context_.files, count); }
 
     bool HasNick(std::string_view nick) const {
         for (int row = 1; row <= lvwNicks.Count(); ++row) {
