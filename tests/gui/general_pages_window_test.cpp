@@ -1,9 +1,13 @@
-// The switches and news pages in the real window: the balloon over the switches list, and the
-// news article in a real message box with the icon its symbol picks.
+// The general pages in the real window: the border of the settings page from file to widget to
+// file, the balloon over the switches list, and the news article in a real message box with the
+// icon its symbol picks.
 
 #include <QAbstractButton>
+#include <QCheckBox>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTimer>
+#include <QToolBar>
 #include <QToolTip>
 #include <QTreeView>
 #include <QtTest>
@@ -47,6 +51,56 @@ class GeneralPagesWindowTest : public QObject {
         hub_.reset();
     }
 
+    // The border is two bytes of the scripts' code page that are no ASCII: the widget shows them
+    // as the characters they are, and a save writes the same two bytes, typed over or not.
+    void theBorderGoesFromFileToWidgetToFileUnchanged_data() {
+        QTest::addColumn<bool>("typed");
+        QTest::newRow("left as it is") << false;
+        QTest::newRow("typed over") << true;
+    }
+
+    void theBorderGoesFromFileToWidgetToFileUnchanged() {
+        QFETCH(bool, typed);
+        const std::string file = SettingsFile("\xBB\xAB");
+        hub_->WriteSetting(kSettings, file);
+        window_->OpenPage("General~Settings");
+        auto* border = window_->findChild<QLineEdit*>("txtTextBox(0)");
+        QVERIFY(border != nullptr);
+        QCOMPARE(border->text(), kBorder);
+        if (typed) {
+            border->selectAll();
+            QTest::keyClicks(border, kBorder);
+        } else {
+            // Ticked and unticked again: the page has a change to save, and the same values.
+            auto* flat = window_->findChild<QCheckBox*>("chkCheckBox(1)");
+            QVERIFY(flat != nullptr);
+            flat->click();
+            flat->click();
+        }
+        QVERIFY(Action("SAVE")->isEnabled());
+        Action("SAVE")->trigger();
+        QCOMPARE(hub_->ReadSetting(kSettings), file);
+    }
+
+    // What the scripts' readers trim, the page loses: the blank behind a typed border is saved,
+    // and gone when the page reads the file again.
+    void aBorderEndingInABlankLosesItOnReload() {
+        hub_->WriteSetting(kSettings, SettingsFile("\xBB\xAB"));
+        window_->OpenPage("General~Settings");
+        auto* border = window_->findChild<QLineEdit*>("txtTextBox(0)");
+        QVERIFY(border != nullptr);
+        QTest::keyClick(border, Qt::Key_End);
+        QTest::keyClick(border, Qt::Key_Space);
+        Action("SAVE")->trigger();
+        QCOMPARE(hub_->ReadSetting(kSettings), SettingsFile("\xBB\xAB "));
+        QMessageBox::Icon shown = QMessageBox::NoIcon;
+        QString title;
+        QTimer::singleShot(0, this, [&] { CloseNextBox(shown, title); });
+        Action("DISCARD")->trigger();
+        QCOMPARE(title, QStringLiteral("Discard changes?"));
+        QCOMPARE(border->text(), kBorder);
+    }
+
     void aClickOnASwitchShowsItsDescriptionWhereThereIsOne() {
         window_->OpenPage("General~Switches");
         auto* list = window_->findChild<QTreeView*>("lvwSwitches");
@@ -80,6 +134,22 @@ class GeneralPagesWindowTest : public QObject {
     }
 
   private:
+    static constexpr const char* kSettings = "General/Globals/GeneralSettings.tbl";
+    inline static const QString kBorder = QString::fromUtf8("\u00BB\u00AB");
+
+    // The file as the page writes it, with this border.
+    static std::string SettingsFile(const std::string& border) {
+        return test::Crlf({"tGeneralSettings = {", "\tbAllowAllPrefixes = 1,", "\tbFlatRC = 0,",
+                           "\tbUnregRCEnable = 1,", "\tsBorder = \"" + border + "\",",
+                           "\tsRightClickName = \"\",", "\tsPrefix = \"!\",", "}"});
+    }
+
+    QAction* Action(const char* key) const {
+        auto* page = window_->WindowOf("General~Settings");
+        auto* toolbar = page == nullptr ? nullptr : page->findChild<QToolBar*>("tlbFormToolbar");
+        return toolbar == nullptr ? nullptr : toolbar->findChild<QAction*>(key);
+    }
+
     void ClickRow(QTreeView* list, int row) {
         const QRect rect = list->visualRect(list->model()->index(row, 0));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, rect.center());

@@ -6,6 +6,7 @@
 namespace qb::pages {
 
 void RegisterGeneralPages(shell::PageRegistry& registry) {
+    RegisterSettingsPages(registry);
     RegisterNewsPages(registry);
     RegisterSwitchPages(registry);
 }

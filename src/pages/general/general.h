@@ -17,6 +17,7 @@ void RegisterGeneralBuilders(store::BuilderRegistry& builders);
 // General\Globals\GeneralSettings.tbl: prefix, border and right click name (settings.cpp).
 const store::FileSchema& GeneralSettingsSchema();
 void RegisterSettingsBuilders(store::BuilderRegistry& builders);
+void RegisterSettingsPages(shell::PageRegistry& registry);
 
 // General\Bots\BotSettings.tbl: who is told of bot changes (bots.cpp).
 const store::FileSchema& BotSettingsSchema();
