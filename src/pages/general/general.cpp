@@ -7,6 +7,7 @@ namespace qb::pages {
 
 void RegisterGeneralPages(shell::PageRegistry& registry) {
     RegisterSettingsPages(registry);
+    RegisterBotPages(registry);
     RegisterNewsPages(registry);
     RegisterSwitchPages(registry);
 }

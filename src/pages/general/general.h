@@ -22,5 +22,7 @@ void RegisterSettingsPages(shell::PageRegistry& registry);
 // General\Bots\BotSettings.tbl: who is told of bot changes (bots.cpp).
 const store::FileSchema& BotSettingsSchema();
 void RegisterBotBuilders(store::BuilderRegistry& builders);
+// frmGeneralBots: both bot files (Bots.tbl has no builder).
+void RegisterBotPages(shell::PageRegistry& registry);
 
 }  // namespace qb::pages

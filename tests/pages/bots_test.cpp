@@ -1,0 +1,40 @@
+// The bots RESTORE hands out: one for every bot the pack lists, each from a group that has one.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "pages/general/bot_list.h"
+
+namespace qb::pages {
+namespace {
+
+TEST(Bots, RestoreGivesABotToEveryFunctionThePackListsAndNoOther) {
+    ASSERT_FALSE(store::ArchiveBuilt());
+    std::multiset<std::string> restored;
+    for (const BotFunction& function : BotFunctions()) {
+        if (store::Passes(function.editions)) restored.insert("t" + std::string(function.function));
+    }
+    const auto listed = BuildBotList();
+    EXPECT_EQ(restored, std::multiset<std::string>(listed.begin(), listed.end()));
+    EXPECT_EQ(BotFunctions().front().function, "Main");
+}
+
+TEST(Bots, EveryGroupThatRestoreNamesHasABotAndAllShareOneAddress) {
+    const std::string email = DefaultBot("Main").email;
+    EXPECT_FALSE(email.empty());
+    for (const BotFunction& function : BotFunctions()) {
+        const BotIdentity bot = DefaultBot(function.group);
+        EXPECT_FALSE(bot.name.empty()) << function.group;
+        EXPECT_FALSE(bot.description.empty()) << function.group;
+        EXPECT_EQ(bot.email, email) << function.group;
+    }
+    // The archive's group has a bot though no function RESTORE lists speaks through it.
+    EXPECT_EQ(DefaultBot("TheVellum").email, email);
+    const BotIdentity unknown = DefaultBot("Archive");
+    EXPECT_TRUE(unknown.name.empty() && unknown.description.empty() && unknown.email.empty());
+}
+
+}  // namespace
+}  // namespace qb::pages
