@@ -76,6 +76,8 @@ const char* KindName(ControlKind kind) {
 
 void ListJson(JsonObject& json, std::string& out, const shell::ListControl& list) {
     json.Bool("checkboxes", list.CheckBoxes());
+    // What a page keeps on the list itself, such as the name of the file it holds.
+    if (!list.Tag().empty()) json.Text("tag", list.Tag());
     Array(json.Key("columns"), list.Columns(), [&](const shell::ListColumn& column) {
         JsonObject c(out);
         c.Text("key", column.key);

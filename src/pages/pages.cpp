@@ -2,12 +2,14 @@
 
 #include "pages/communication/communication.h"
 #include "pages/general/general.h"
+#include "pages/language/language.h"
 #include "pages/security/security.h"
 
 namespace qb::pages {
 
 void RegisterAllPages(shell::PageRegistry& registry, const PageServices& services) {
     RegisterGeneralPages(registry);
+    RegisterLanguagePages(registry);
     RegisterCommunicationPages(registry, services);
     RegisterSecurityPages(registry);
 }

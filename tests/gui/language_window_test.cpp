@@ -1,0 +1,118 @@
+// A language page in the real window: OPEN shows a real file dialog, in the pages' own filter,
+// and what is chosen there is listed.
+
+#include <QDir>
+#include <QFileDialog>
+#include <QTimer>
+#include <QToolBar>
+#include <QTreeView>
+#include <QtTest>
+
+#include "gui/main_window.h"
+#include "gui/qt_host.h"
+#include "pages/pages.h"
+#include "shell/container.h"
+#include "support/temp_hub.h"
+
+namespace qb::gui {
+
+class LanguageWindowTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void init() {
+        hub_ = std::make_unique<test::TempHub>();
+        hub_->WriteSetting(kFiles + std::string("DEFAULT.tbl"),
+                           test::Crlf({"tScriptRightClick = {", "\tsHelp = \"Help\",", "}"}));
+        hub_->WriteSetting(kFiles + std::string("English.TBL"),
+                           test::Crlf({"tScriptRightClick = {", "\tsHelp = \"Help me\",", "}"}));
+        hub_->WriteSetting(
+            "Language/RightClick/RightClickLanguages.tbl",
+            test::Crlf({"tRightClickLanguages = {", "\tCurrent = \"DEFAULT\",", "}"}));
+        files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
+        pages::RegisterAllPages(registry_);
+        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
+        container_->FillNavigation();
+        container_->LoadProfiles();
+        window_ = std::make_unique<MainWindow>(*container_);
+        host_.SetParent(window_.get());
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+        window_->OpenPage("General~RightClicks");
+    }
+
+    void cleanup() {
+        window_.reset();
+        container_.reset();
+        files_.reset();
+        registry_ = shell::PageRegistry();
+        hub_.reset();
+    }
+
+    void openListsTheFileChosenInTheFileDialog() {
+        PageWindow* page = window_->WindowOf("General~RightClicks");
+        QVERIFY(page != nullptr);
+        QCOMPARE(page->windowTitle(), QStringLiteral("General ~ RightClick"));
+        auto* list = page->findChild<QTreeView*>("lvwFiles");
+        QVERIFY(list != nullptr);
+        QCOMPARE(list->model()->rowCount(), 1);
+
+        QString title;
+        QStringList filters;
+        const QString chosen =
+            QString::fromStdString((hub_->Settings() / kFiles / "English.TBL").string());
+        QTimer::singleShot(0, this, [&] { ChooseInNextDialog(chosen, title, filters); });
+        auto* toolbar = page->findChild<QToolBar*>("tlbFiles");
+        QVERIFY(toolbar != nullptr);
+        toolbar->findChild<QAction*>("OPEN")->trigger();
+
+        QCOMPARE(title, QStringLiteral("Select Language File to open"));
+        QCOMPARE(filters, NameFilters("(*.TBL)|*.tbl"));
+        QCOMPARE(list->model()->rowCount(), 2);
+        QCOMPARE(list->model()->index(1, 0).data().toString(), QStringLiteral("English"));
+        // Listing a language is no change to save.
+        QVERIFY(!container_->Active()->SaveRequired());
+    }
+
+    // The scripts' home system ignores letter case, and so does the dialog's filter.
+    void theFilterFindsTableFilesInAnyLetterCase() {
+        const QStringList filters = NameFilters("(*.TBL)|*.tbl");
+        QCOMPARE(filters.size(), 1);
+        QVERIFY(filters.front().startsWith(QStringLiteral("(*.TBL) (")));
+        const QString patterns = filters.front().section(QLatin1Char('('), 2).chopped(1);
+        QTemporaryDir dir;
+        for (const char* name : {"a.tbl", "b.TBL", "c.Tbl", "d.txt", "e.tbl.bak"}) {
+            QFile file(dir.filePath(QString::fromLatin1(name)));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        QCOMPARE(QDir(dir.path()).entryList(patterns.split(QLatin1Char(' ')), QDir::Files),
+                 (QStringList{"a.tbl", "b.TBL", "c.Tbl"}));
+    }
+
+  private:
+    static constexpr const char* kFiles = "Language/RightClick/Files/";
+
+    void ChooseInNextDialog(const QString& path, QString& title, QStringList& filters) {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            QTimer::singleShot(10, this, [&, path] { ChooseInNextDialog(path, title, filters); });
+            return;
+        }
+        title = dialog->windowTitle();
+        filters = dialog->nameFilters();
+        dialog->selectFile(path);
+        QMetaObject::invokeMethod(dialog, "accept");
+    }
+
+    std::unique_ptr<test::TempHub> hub_;
+    std::unique_ptr<store::TableFiles> files_;
+    QtHost host_;
+    shell::PageRegistry registry_;
+    std::unique_ptr<shell::Container> container_;
+    std::unique_ptr<MainWindow> window_;
+};
+
+}  // namespace qb::gui
+
+QTEST_MAIN(qb::gui::LanguageWindowTest)
+#include "language_window_test.moc"
