@@ -160,6 +160,12 @@ class LanguagePage : public Page {
         const auto name =
             context_.host.AskInput(std::string(set_.newPrompt), std::string(set_.newTitle), "");
         if (!name || name->empty()) return;
+        // DEFAULT comes with the scripts and the manager never writes it: a new file under its
+        // name would replace it at the first save.
+        if (store::UpperCase(*name) == kDefault) {
+            Warn("Read Only", "DEFAULT file cannot be edited");
+            return;
+        }
         readOnly_ = false;
         lvwTexts.Clear();
         shell::LoadTableRows(context_.files, FileOf(kDefault), lvwTexts, "=", set_.languageTable,
