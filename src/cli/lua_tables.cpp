@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
 #include <lua.hpp>
+#include <sstream>
 
 namespace qb::cli {
 namespace {
