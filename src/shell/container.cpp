@@ -307,6 +307,7 @@ std::vector<PopupEntry> Container::PopupEntries(const std::string& menu) const {
     const PopupMenu* popup = FindPopupMenu(menu);
     if (popup == nullptr || active_ == nullptr) return entries;
     for (const auto& entry : popup->entries) {
+        if (!active_->PopupEntryVisible(entry.name)) continue;
         if (entry.method.empty() || active_->HasMenuMethod(entry.method)) entries.push_back(entry);
     }
     return entries;
@@ -315,6 +316,7 @@ std::vector<PopupEntry> Container::PopupEntries(const std::string& menu) const {
 bool Container::ClickPopupEntry(const std::string& name) {
     const PopupEntry* entry = FindPopupEntry(name);
     if (entry == nullptr || active_ == nullptr) return false;
+    if (!active_->PopupEntryVisible(entry->name)) return false;
     if (entry->method.empty()) return true;
     if (!active_->HasMenuMethod(entry->method)) return false;
     active_->CallMenuMethod(entry->method);

@@ -97,10 +97,10 @@ class Container {
 
     // ---- Pop-up menus ----
     // The entries of a pop-up menu that the active page has a method for (and those that call
-    // nothing).
+    // nothing), but for those the page hides.
     std::vector<PopupEntry> PopupEntries(const std::string& menu) const;
     // A click on a pop-up entry (mnuFirstAdd): calls its method on the active page. False when
-    // no page is active or the page lacks the method.
+    // no page is active, the page lacks the method or hides the entry.
     bool ClickPopupEntry(const std::string& entry);
 
     // ---- Application menus ----

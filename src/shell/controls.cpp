@@ -231,6 +231,17 @@ void Toolbar::SetButtonPressed(const std::string& key, bool pressed) {
     throw std::out_of_range(Name() + ": no button " + key);
 }
 
+void Toolbar::SetButtonTip(const std::string& key, std::string tip) {
+    for (auto& button : buttons_) {
+        if (!button.separator && button.key == key) {
+            button.tip = std::move(tip);
+            Changed();
+            return;
+        }
+    }
+    throw std::out_of_range(Name() + ": no button " + key);
+}
+
 bool Toolbar::UserClick(const std::string& key) {
     const ToolButton* button = Find(key);
     if (!Enabled() || button == nullptr || !button->enabled) return false;

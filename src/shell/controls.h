@@ -179,6 +179,7 @@ class Toolbar : public Control {
     void SetButtonEnabled(int index, bool enabled);
     void SetButtonEnabled(const std::string& key, bool enabled);
     void SetButtonPressed(const std::string& key, bool pressed);
+    void SetButtonTip(const std::string& key, std::string tip);
 
     // Looks shared by the toolbars of one kind.
     std::string imageList;

@@ -77,6 +77,14 @@ void Page::PublishMenuMethod(std::string method, std::function<void()> call) {
     menuMethods_[std::move(method)] = std::move(call);
 }
 
+void Page::SetPopupEntryVisible(const std::string& entry, bool visible) {
+    if (visible) {
+        hiddenEntries_.erase(entry);
+    } else {
+        hiddenEntries_.insert(entry);
+    }
+}
+
 void Page::MarkDirty() {
     bSaveRequired = MarkSaveRequired(tlbFormToolbar, stsStatusBar);
 }

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -70,6 +71,11 @@ class Page {
     // The public methods the main window's pop-up menus call by name (gMenuFirstAddClick...).
     bool HasMenuMethod(const std::string& method) const;
     void CallMenuMethod(const std::string& method);
+    // Whether the page shows a pop-up entry (mnuTrueFalseTrue) the next time its menu pops up;
+    // every entry is shown until the page hides it.
+    bool PopupEntryVisible(const std::string& entry) const {
+        return !hiddenEntries_.contains(entry);
+    }
     // Told when the page pops up one of the main window's menus (mnuFirst, mnuUserActions...).
     std::function<void(const std::string& menu)> onPopupMenu;
 
@@ -98,6 +104,7 @@ class Page {
     void ShowPopupMenu(const std::string& menu) {
         if (onPopupMenu) onPopupMenu(menu);
     }
+    void SetPopupEntryVisible(const std::string& entry, bool visible);
 
     // Variants of the frame that a page's own description asks for.
     void SetNoRestore(bool noRestore) { noRestore_ = noRestore; }
@@ -127,6 +134,7 @@ class Page {
     bool discardClears_ = false;
     Layout body_;
     std::map<std::string, std::function<void()>> menuMethods_;
+    std::set<std::string> hiddenEntries_;
 };
 
 }  // namespace qb::shell

@@ -11,6 +11,28 @@ std::string Write(const FileSchema& schema, BuildRun& run, const FieldValue& val
     });
 }
 
+// Where the builder finds a field's old value: the key and the table ReadTableValue is asked for.
+// A row of a sub-table (a profile number, a named flag) is a key of the sub-table's name.
+std::string OldKey(const Field& field, int row) {
+    switch (field.kind) {
+        case FieldKind::ProfileChecks:
+            return std::to_string(row);
+        case FieldKind::NamedFlags:
+            return field.rows.at(static_cast<size_t>(row));
+        case FieldKind::Flag:
+        case FieldKind::Number:
+        case FieldKind::String:
+            break;
+    }
+    return field.key;
+}
+
+std::string SubTableOf(const FileSchema& schema, const Field& field) {
+    return field.kind == FieldKind::ProfileChecks || field.kind == FieldKind::NamedFlags
+               ? field.key
+               : schema.table;
+}
+
 }  // namespace
 
 std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema) {
@@ -35,11 +57,10 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
             const TableFiles::ReadScope scope(run.files);
             // An emptied value and a missing key are one: both take the default. Rows are
             // found by profile number only, so a row keeps its value with its number.
-            text = Write(schema, run, [&](const Field& field, int profile) {
+            text = Write(schema, run, [&](const Field& field, int row) {
+                if (field.resetByRebuild) return field.defaultValue;
                 std::string value =
-                    field.kind == FieldKind::ProfileChecks
-                        ? run.files.ReadTableValue(path, std::to_string(profile), field.key)
-                        : run.files.ReadTableValue(path, field.key, schema.table);
+                    run.files.ReadTableValue(path, OldKey(field, row), SubTableOf(schema, field));
                 return value.empty() ? field.defaultValue : value;
             });
             break;

@@ -30,8 +30,9 @@ struct BuildRun {
 std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema);
 
 // Brings one file to the current layout. A settings file keeps each key's value unless it is
-// empty, which takes the default; a data file is written only when missing; a reset file is
-// rewritten with its defaults. Keys whose function the edition lacks aren't written.
+// empty, which takes the default (a key reset by a rebuild always does); a data file is written
+// only when missing; a reset file is rewritten with its defaults. Keys whose function the edition
+// lacks aren't written.
 void BuildFile(const FileSchema& schema, BuildRun& run);
 
 using FileBuilder = std::function<void(BuildRun& run)>;

@@ -59,6 +59,14 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
                 }
                 text.Close(line.depth);
                 break;
+            case FieldKind::NamedFlags:
+                text.Open(line.depth, field->key);
+                for (size_t row = 0; row < field->rows.size(); ++row) {
+                    text.Bare(line.rowDepth, field->rows[row],
+                              valueOf(*field, static_cast<int>(row)));
+                }
+                text.Close(line.depth);
+                break;
         }
     }
     return text.End();

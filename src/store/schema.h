@@ -20,6 +20,7 @@ enum class FieldKind {
     Number,         // iKey = 15,
     String,         // sKey = "text",
     ProfileChecks,  // tKey = { [-1] = 0, [0] = 1, ... }, one row per profile number
+    NamedFlags,     // tKey = { bFirst = 0, bSecond = 1, ... }, one row per name of `rows`
 };
 
 struct Field {
@@ -28,6 +29,9 @@ struct Field {
     std::string defaultValue;  // for profile checks, the default of each row
     // Builders write the key only in the editions that have its function.
     EditionTest editions{{}, true};
+    std::vector<std::string> rows{};  // the row names of named flags, in file order
+    // The builder writes the default whatever the file held: a rebuild clears the key.
+    bool resetByRebuild = false;
 };
 
 // What a rebuild does to a file that exists already.
@@ -64,8 +68,9 @@ struct FileSchema {
     WriterForm builderForm{};
 };
 
-// The value of a field; `profile` is the row's profile number for profile checks, else unused.
-using FieldValue = std::function<std::string(const Field& field, int profile)>;
+// The value of a field; `row` is the row's profile number for profile checks, the row's index in
+// `rows` (from 0) for named flags, else unused.
+using FieldValue = std::function<std::string(const Field& field, int row)>;
 // Whether a field is written at all.
 using FieldFilter = std::function<bool(const Field& field)>;
 
