@@ -1,5 +1,6 @@
 #include "pages/pages.h"
 
+#include "pages/archive/archive.h"
 #include "pages/communication/communication.h"
 #include "pages/general/general.h"
 #include "pages/language/language.h"
@@ -12,10 +13,12 @@ void RegisterAllPages(shell::PageRegistry& registry, const PageServices& service
     RegisterLanguagePages(registry);
     RegisterCommunicationPages(registry, services);
     RegisterSecurityPages(registry);
+    RegisterArchivePages(registry);
 }
 
 void RegisterAllBuilders(store::BuilderRegistry& builders) {
     RegisterGeneralBuilders(builders);
+    RegisterCommunicationBuilders(builders);
     RegisterSecurityBuilders(builders);
 }
 

@@ -3,10 +3,14 @@
 namespace qb::pages {
 
 void RegisterSecurityPages(shell::PageRegistry& registry) {
+    RegisterClientCheckerPage(registry);
+    RegisterFloodPage(registry);
     RegisterSpyPages(registry);
 }
 
 void RegisterSecurityBuilders(store::BuilderRegistry& builders) {
+    RegisterClientCheckerBuilders(builders);
+    RegisterFloodBuilders(builders);
     RegisterSpyBuilders(builders);
 }
 

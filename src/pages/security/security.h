@@ -1,6 +1,7 @@
 #pragma once
 // The security functions: their pages and the descriptions of their files.
 
+#include "pages/matrix/pair_matrix.h"
 #include "shell/page_registry.h"
 #include "store/builders.h"
 #include "store/schema.h"
@@ -9,6 +10,21 @@ namespace qb::pages {
 
 void RegisterSecurityPages(shell::PageRegistry& registry);
 void RegisterSecurityBuilders(store::BuilderRegistry& builders);
+
+// The client checker (client_checker.cpp).
+void RegisterClientCheckerPage(shell::PageRegistry& registry);
+void RegisterClientCheckerBuilders(store::BuilderRegistry& builders);
+// Security\ClientChecker\ClientCheckerSettings.tbl: the action, its ban time, the blocked
+// connection types and the exempt profiles.
+const store::FileSchema& ClientCheckerSettingsSchema();
+// Security\ClientChecker\ClientVersions.tbl: the clients and their least versions, a list the
+// user fills, made empty when missing.
+const store::FileSchema& ClientVersionsSchema();
+
+// The flooder, a pair matrix (flood.cpp).
+void RegisterFloodPage(shell::PageRegistry& registry);
+void RegisterFloodBuilders(store::BuilderRegistry& builders);
+const PairMatrix& FloodMatrix();
 
 // Search spy and command spy (spies.cpp).
 void RegisterSpyPages(shell::PageRegistry& registry);

@@ -1,0 +1,57 @@
+// The pair shape's builder. A matrix survives a change of the hub's profiles by its numbers alone:
+// every cell is carried over by its By and On numbers, numbers new to the hub start at 0, and
+// numbers the hub lost are dropped. A profile's name plays no part in it.
+
+#include "pages/matrix/pair_matrix.h"
+#include "store/table_text.h"
+
+namespace qb::pages {
+namespace {
+
+std::string FolderOf(const std::string& file) {
+    return file.substr(0, file.rfind('\\'));
+}
+
+}  // namespace
+
+void BuildPairMatrix(const PairMatrix& matrix, store::BuildRun& run) {
+    // A matrix of P profiles asks its file P times P: the scope reads it once.
+    const store::TableFiles::ReadScope scope(run.files);
+    const std::string path = run.files.SettingsFolder() + "\\" + matrix.file;
+    // The old value as read, or 0 where it is empty or missing.
+    auto old = [&](const std::string& key, const std::string& table) {
+        std::string value = run.files.ReadTableValue(path, key, table);
+        return value.empty() ? std::string("0") : value;
+    };
+
+    store::TableText text(matrix.table + " = {");
+    if (matrix.passive != nullptr) {
+        text.Open(1, matrix.passive->subTable);
+        for (int number = -1; number <= run.lastProfile; ++number) {
+            text.Row(2, number, old(std::to_string(number), matrix.passive->subTable));
+        }
+        text.Close(1);
+    }
+    for (int by = -1; by <= run.lastProfile; ++by) {
+        const std::string group = std::to_string(by);
+        text.Open(1, "[" + group + "]");
+        for (int on = matrix.builderFirstOn; on <= run.lastProfile; ++on) {
+            text.Row(2, on, old(std::to_string(on), group));
+        }
+        if (matrix.passive != nullptr) {
+            for (const std::string& word : matrix.passive->builderWords) {
+                text.Bare(2, word, old(word, group));
+            }
+        }
+        text.Close(1);
+    }
+    run.files.WriteTextFile(matrix.file, text.End());
+}
+
+void RegisterPairMatrixBuilders(store::BuilderRegistry& builders, const PairMatrix& matrix) {
+    const std::string folder = FolderOf(matrix.file);
+    builders.Add(folder, [&matrix](store::BuildRun& run) { BuildPairMatrix(matrix, run); });
+    if (matrix.passive != nullptr) builders.Add(folder, *matrix.passive->dataFile);
+}
+
+}  // namespace qb::pages

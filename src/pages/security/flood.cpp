@@ -1,0 +1,22 @@
+// The flooder: which profiles' users the flood guard watches when they flood users of which
+// profiles. The pair shape of the permission matrices.
+
+#include "pages/security/security.h"
+
+namespace qb::pages {
+
+const PairMatrix& FloodMatrix() {
+    static const PairMatrix matrix{"Security~Flooder", "Flood",
+                                   "Security\\Flood\\FloodSettings.tbl", "tFloodSettings", -1};
+    return matrix;
+}
+
+void RegisterFloodPage(shell::PageRegistry& registry) {
+    RegisterPairMatrixPage(registry, FloodMatrix());
+}
+
+void RegisterFloodBuilders(store::BuilderRegistry& builders) {
+    RegisterPairMatrixBuilders(builders, FloodMatrix());
+}
+
+}  // namespace qb::pages
