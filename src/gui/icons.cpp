@@ -297,6 +297,13 @@ const std::map<std::string, Drawing>& Drawings() {
              Check(p, kGreen);
          }},
         {"OPEN", Folder},
+        // The permission pages' filters: by command, by profile.
+        {"COMMAND",
+         [](QPainter& p) {
+             Page(p);
+             Lines(p, 10, 22, {13, 18, 23});
+         }},
+        {"PROFILE", Person},
         {"Treeview", TreeGlyph},
         {"EXPAND",
          [](QPainter& p) {

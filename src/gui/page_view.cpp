@@ -1,5 +1,7 @@
 #include "gui/page_view.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -104,7 +106,11 @@ class ListBinding : public QTreeView {
             }
             if (width > 0) setColumnWidth(i, width);
         }
-        header()->setVisible(list_.ColumnCount() > 0);
+        // A list whose columns have no text shows no header, as a list with hidden headers.
+        const auto& columns = list_.Columns();
+        header()->setVisible(
+            std::any_of(columns.begin(), columns.end(),
+                        [](const shell::ListColumn& c) { return !c.text.empty(); }));
         SyncCommon(list_, this);
         FollowSelection(list_.Selected());
     }
@@ -245,7 +251,7 @@ QLayout* PageView::BuildLayout(const shell::Layout& layout) {
         switch (item.type) {
             case Type::Column:
             case Type::Row:
-                box->addLayout(BuildLayout(item));
+                box->addLayout(BuildLayout(item), item.weight);
                 break;
             case Type::Stretch:
                 box->addStretch(1);
@@ -254,7 +260,7 @@ QLayout* PageView::BuildLayout(const shell::Layout& layout) {
                 QWidget* widget = Build(*item.control);
                 const bool grows = item.control->Kind() == ControlKind::List ||
                                    item.control->Kind() == ControlKind::Text;
-                box->addWidget(widget, grows ? 1 : 0);
+                box->addWidget(widget, item.weight > 0 ? item.weight : grows ? 1 : 0);
                 break;
             }
         }

@@ -45,6 +45,9 @@ void ToolbarBinding::Sync() {
         if (action == nullptr) continue;
         action->setEnabled(button.enabled);
         action->setToolTip(ToQt(button.tip));
+        // Only a pressed button is checkable, so that a click never presses one: the page
+        // presses its buttons itself.
+        action->setCheckable(button.pressed);
         action->setChecked(button.pressed);
     }
     setEnabled(toolbar_.Enabled());

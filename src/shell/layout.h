@@ -14,6 +14,7 @@ struct Layout {
     Type type = Type::Column;
     std::vector<Layout> items;
     const Control* control = nullptr;
+    int weight = 0;  // a share of the room its row or column has to spare; 0 for the common share
 };
 
 inline Layout Column(std::initializer_list<Layout> items) {
@@ -27,6 +28,11 @@ inline Layout Item(const Control& control) {
 }
 inline Layout Stretch() {
     return {Layout::Type::Stretch, {}, nullptr};
+}
+// A part that takes `weight` shares of the room to spare, where the parts of a row differ in need.
+inline Layout Weighted(Layout layout, int weight) {
+    layout.weight = weight;
+    return layout;
 }
 
 }  // namespace qb::shell

@@ -10,6 +10,7 @@
 #include "pages/pages.h"
 #include "shell/container.h"
 #include "shell/scripted_host.h"
+#include "store/table_text.h"
 #include "support/temp_hub.h"
 
 namespace qb::pages {
@@ -153,6 +154,27 @@ TEST_F(PairMatrices, AFreshTalkFileShowsNoForTheUnregisteredUntilTheFirstSaveWri
               Crlf({"tTalk = {", "\t[-1] = {", "\t\t[-1] = 0,", "\t\t[0] = 1,", "\t},", "\t[0] = {",
                     "\t\t[-1] = 0,", "\t\t[0] = 1,", "\t},", "}"}));
     EXPECT_EQ(Rows(*page), shown);
+}
+
+TEST_F(PairMatrices, CellsPastLineFiveThousandReadNoAndARebuildResetsThem) {
+    // 70 profile rows make a file of 2 + 70 * 72 lines: the last group's rows run past line
+    // 5000, where every one-key read of the scripts' files ends.
+    store::TableText text("tMute = {");
+    for (int by = -1; by <= 68; ++by) {
+        text.Open(1, "[" + std::to_string(by) + "]");
+        for (int on = -1; on <= 68; ++on)
+            text.Row(2, on, "1");
+        text.Close(1);
+    }
+    hub.WriteSetting("Communication/Mute/Mute.tbl", text.End() + "\r\n");
+    const std::string built = Build(MuteMatrix(), 68);
+    // Group 67 ends on line 4969 and keeps every cell.
+    EXPECT_NE(built.find("\t\t[68] = 1,\r\n\t},\r\n\t[68] = {\r\n"), std::string::npos);
+    // Group 68 opens on line 4970; its rows from line 5001 on, On 29 and after, read empty.
+    const size_t group = built.find("\t[68] = {");
+    ASSERT_NE(group, std::string::npos);
+    EXPECT_NE(built.find("\t\t[28] = 1,\r\n\t\t[29] = 0,", group), std::string::npos);
+    EXPECT_EQ(built.find("= 1,", built.find("[29] = 0,", group)), std::string::npos);
 }
 
 TEST_F(PairMatrices, AHubOfUnregisteredAloneHasOneRowAndOneGroup) {

@@ -41,9 +41,13 @@ class PairMatrixPage : public MatrixPage {
         lvwEnabledProfiles_ = &Add<ListControl>("lvwEnabledProfiles", true);
         lvwEnabledProfiles_->SetWidth(kPassiveSize.width - kPairSize.width - 120);
         lvwEnabledProfiles_->onItemCheck = [this](int) { MarkDirty(); };
+        // The matrix takes the room; the check list needs only its names.
         SetBody(shell::Row(
-            {shell::Column({shell::Item(tlbListview), shell::Item(lvwPermissions)}),
-             shell::Column({shell::Item(*lblPassive_), shell::Item(*lvwEnabledProfiles_)})}));
+            {shell::Weighted(shell::Column({shell::Item(tlbListview), shell::Item(lvwPermissions)}),
+                             2),
+             shell::Weighted(
+                 shell::Column({shell::Item(*lblPassive_), shell::Item(*lvwEnabledProfiles_)}),
+                 1)}));
     }
 
   private:

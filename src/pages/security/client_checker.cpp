@@ -24,8 +24,8 @@ using shell::ListControl;
 using shell::Page;
 using shell::PageContext;
 
-constexpr shell::PageSize kSize{7200, 6600};
-constexpr int kClientsWidth = 4200;
+constexpr shell::PageSize kSize{8400, 6600};
+constexpr int kClientsWidth = 4800;
 constexpr int kCheckListWidth = 2400;
 // What a column leaves for the list's scroll bar.
 constexpr int kScrollBar = 275;
@@ -71,15 +71,19 @@ class ClientCheckerPage : public Page {
         PublishMenuMethod("gMenuFirstEditClick", [this] { EditClient(); });
         // A discard reloads the files and leaves nothing to save.
         SetDiscardClears(true);
-        SetBody(
-            shell::Row({shell::Column({shell::Item(lblClients), shell::Item(tlbClients),
-                                       shell::Item(lvwClients),
-                                       shell::Row({shell::Item(lblTimeBan), shell::Item(txtUpDown),
-                                                   shell::Item(updUpDown), shell::Stretch()}),
-                                       shell::Row({shell::Item(lblAction), shell::Item(cboComboBox),
-                                                   shell::Stretch()})}),
-                        shell::Column({shell::Item(lblBlocked), shell::Item(lvwBlockedTypes),
-                                       shell::Item(lblExempt), shell::Item(lvwEnabledProfiles)})}));
+        SetBody(shell::Row(
+            {shell::Weighted(
+                 shell::Column({shell::Item(lblClients), shell::Item(tlbClients),
+                                shell::Item(lvwClients),
+                                shell::Row({shell::Item(lblTimeBan), shell::Item(txtUpDown),
+                                            shell::Item(updUpDown), shell::Stretch()}),
+                                shell::Row({shell::Item(lblAction), shell::Item(cboComboBox),
+                                            shell::Stretch()})}),
+                 3),
+             shell::Weighted(
+                 shell::Column({shell::Item(lblBlocked), shell::Item(lvwBlockedTypes),
+                                shell::Item(lblExempt), shell::Item(lvwEnabledProfiles)}),
+                 2)}));
     }
 
   private:

@@ -1,0 +1,97 @@
+// The permission matrices at hub sizes of 4 to 250 profiles: a pair page (P * P rows, each read
+// by key from a file of as many lines) and the command page opened, one cell flipped and saved;
+// and the pair builder reading its file through the read scope's index, against the plain scan.
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include "pages/archive/archive.h"
+#include "pages/communication/communication.h"
+#include "pages/pages.h"
+#include "shell/container.h"
+#include "shell/scripted_host.h"
+#include "support/temp_hub.h"
+
+namespace {
+
+using namespace qb;
+
+// `rows` rows in all: Unregistered and the hub's profiles.
+std::string ProfilesXml(int rows) {
+    std::string xml = "<Profiles>\r\n";
+    for (int i = 0; i < rows - 1; ++i)
+        xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
+    return xml + "</Profiles>\r\n";
+}
+
+// A hub whose matrix files the builder has written.
+struct MatrixHub {
+    explicit MatrixHub(int rows) {
+        hub.Write("cfg/Profiles.xml", ProfilesXml(rows));
+        for (const char* folder : {"Communication/Talk", "TheVellum/Arcade"})
+            std::filesystem::create_directories(hub.Settings() / folder);
+        store::BuildRun run{files, rows - 2};
+        pages::BuildPairMatrix(pages::TalkMatrix(), run);
+        pages::RegisterAllPages(registry);
+        container.LoadProfiles();
+    }
+    // Opens the page, flips its first cell, saves and closes.
+    void OpenFlipSave(const std::string& key) {
+        shell::Page* page = container.Open(key);
+        static_cast<shell::Toolbar*>(page->Find("tlbListview"))->UserClick("EDIT");
+        static_cast<shell::Toolbar*>(page->Find("tlbFormToolbar"))->UserClick("SAVE");
+        container.Close(*page);
+    }
+    test::TempHub hub;
+    store::TableFiles files{hub.ProgramFolder()};
+    std::ostringstream transcript;
+    shell::ScriptedHost host{transcript};
+    shell::PageRegistry registry;
+    shell::Container container{files, host, registry};
+};
+
+void TalkOpenAndSave(benchmark::State& state) {
+    const int rows = static_cast<int>(state.range(0));
+    MatrixHub hub(rows);
+    for (auto _ : state)
+        hub.OpenFlipSave("Communication~Talk");
+    state.counters["profiles"] = rows;
+    state.counters["cells"] = rows * rows;
+}
+BENCHMARK(TalkOpenAndSave)->Arg(4)->Arg(20)->Arg(100)->Arg(250)->Unit(benchmark::kMillisecond);
+
+void ArcadeOpenAndSave(benchmark::State& state) {
+    const int rows = static_cast<int>(state.range(0));
+    MatrixHub hub(rows);
+    for (auto _ : state)
+        hub.OpenFlipSave("Arcade~Permissions");
+    state.counters["profiles"] = rows;
+}
+BENCHMARK(ArcadeOpenAndSave)->Arg(4)->Arg(20)->Arg(100)->Arg(250)->Unit(benchmark::kMillisecond);
+
+void TalkBuild(benchmark::State& state, bool indexing) {
+    const int rows = static_cast<int>(state.range(0));
+    MatrixHub hub(rows);
+    hub.files.SetIndexing(indexing);
+    for (auto _ : state) {
+        store::BuildRun run{hub.files, rows - 2};
+        pages::BuildPairMatrix(pages::TalkMatrix(), run);
+    }
+    state.counters["profiles"] = rows;
+}
+BENCHMARK_CAPTURE(TalkBuild, Indexed, true)
+    ->Arg(4)
+    ->Arg(20)
+    ->Arg(100)
+    ->Arg(250)
+    ->Unit(benchmark::kMillisecond);
+// Each of the P * P keys scans the file again: a hundred profiles take seconds.
+BENCHMARK_CAPTURE(TalkBuild, Scanned, false)
+    ->Arg(4)
+    ->Arg(20)
+    ->Arg(100)
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
