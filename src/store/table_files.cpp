@@ -88,12 +88,13 @@ struct TableFiles::CachedFile {
     std::unique_ptr<ValueIndex> index;  // built at the first one-key read
 };
 
-TableFiles::ReadScope::ReadScope(TableFiles& files) : files_(files) {
-    ++files_.scopes_;
+// With the index switched off a scope holds nothing: every read goes to the disk.
+TableFiles::ReadScope::ReadScope(TableFiles& files) : files_(files), counted_(files.indexing_) {
+    if (counted_) ++files_.scopes_;
 }
 
 TableFiles::ReadScope::~ReadScope() {
-    if (--files_.scopes_ == 0) {
+    if (counted_ && --files_.scopes_ == 0) {
         files_.cache_.clear();
         files_.natives_.clear();
     }

@@ -46,6 +46,7 @@ class TableFiles {
 
       private:
         TableFiles& files_;
+        bool counted_;  // whether the scope holds the files: not while the index is off
     };
 
     // Without the index every read goes to the disk, scopes or not: the plain scanner the index

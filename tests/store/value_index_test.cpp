@@ -133,6 +133,17 @@ TEST_F(Scope, ReadsTheFileOnceWhileTheScopeLives) {
     EXPECT_EQ(files.ReadTableValue("once.tbl", "a", "tO"), "9");
 }
 
+TEST_F(Scope, WithTheIndexOffAScopeHoldsNothingAndEveryReadGoesToTheDisk) {
+    // The benchmarks and the differential tests measure the index against this.
+    hub.WriteSetting("once.tbl", "tO = {\r\n\ta = 1,\r\n}\r\n");
+    files.SetIndexing(false);
+    TableFiles::ReadScope scope(files);
+    EXPECT_EQ(files.ReadTableValue("once.tbl", "a", "tO"), "1");
+    hub.WriteSetting("once.tbl", "tO = {\r\n\ta = 9,\r\n}\r\n");
+    EXPECT_EQ(files.ReadTableValue("once.tbl", "a", "tO"), "9");
+    EXPECT_EQ(files.ReadTextFile("once.tbl"), "tO = {\r\n\ta = 9,\r\n}\r\n");
+}
+
 TEST_F(Scope, ATakenFileSlotFailsReadsInsideTheScopeToo) {
     std::string text;
     for (int i = 0; i < 5001; ++i)
