@@ -71,13 +71,6 @@ void StartAtProfiles(benchmark::State& state, bool indexing) {
     state.counters["profiles"] = static_cast<double>(state.range(0));
 }
 
-void StartIndexed(benchmark::State& state) {
-    StartAtProfiles(state, true);
-}
-void StartScanned(benchmark::State& state) {
-    StartAtProfiles(state, false);
-}
-
 void StartOnTheDemoHub(benchmark::State& state) {
     test::TempHub hub;
     fs::remove_all(hub.Root());
@@ -86,8 +79,18 @@ void StartOnTheDemoHub(benchmark::State& state) {
     StartToShownWindow(state, hub.Scripts(), true);
 }
 
-BENCHMARK(StartIndexed)->Arg(4)->Arg(20)->Arg(100)->Arg(250)->Unit(benchmark::kMillisecond);
-BENCHMARK(StartScanned)->Arg(4)->Arg(20)->Arg(100)->Arg(250)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(StartAtProfiles, Indexed, true)
+    ->Arg(4)
+    ->Arg(20)
+    ->Arg(100)
+    ->Arg(250)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(StartAtProfiles, Scanned, false)
+    ->Arg(4)
+    ->Arg(20)
+    ->Arg(100)
+    ->Arg(250)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(StartOnTheDemoHub)->Unit(benchmark::kMillisecond);
 
 }  // namespace
