@@ -3,17 +3,11 @@
 #include <QLabel>
 #include <QStyle>
 #include <QStyleOptionViewItem>
-#include <QToolBar>
 #include <QTreeView>
 #include <QtTest>
 
 #include "gui/main_window.h"
-#include "gui/page_view.h"
-#include "gui/qt_host.h"
-#include "gui/text.h"
-#include "pages/pages.h"
-#include "shell/container.h"
-#include "support/temp_hub.h"
+#include "support/window_harness.h"
 
 namespace qb::gui {
 
@@ -22,32 +16,21 @@ class CommandSpyWindowTest : public QObject {
 
   private slots:
     void init() {
-        hub_ = std::make_unique<test::TempHub>();
-        hub_->Write("cfg/Profiles.xml", "<Name>Master</Name>\n<Name>Operator</Name>\n");
-        hub_->WriteSetting(
+        harness_ = std::make_unique<test::WindowHarness>();
+        harness_->Hub().Write("cfg/Profiles.xml", "<Name>Master</Name>\n<Name>Operator</Name>\n");
+        harness_->Hub().WriteSetting(
             "Security/CommandSpy/CommandSpySettings.tbl",
             test::Crlf({"tCommandSpySettings = {", "\ttEnabledProfiles = {", "\t\t[-1] = 0,",
                         "\t\t[0] = 1,", "\t\t[1] = 0,", "\t},", "}"}));
-        files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
-        pages::RegisterAllPages(registry_);
-        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
-        container_->LoadProfiles();
-        window_ = std::make_unique<MainWindow>(*container_);
-        window_->show();
-        window_->OpenPage("Security~CommandSpy");
-        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+        harness_->Load();
+        QVERIFY(harness_->Show());
+        harness_->Window().OpenPage("Security~CommandSpy");
     }
 
-    void cleanup() {
-        window_.reset();
-        container_.reset();
-        files_.reset();
-        registry_ = shell::PageRegistry();
-        hub_.reset();
-    }
+    void cleanup() { harness_.reset(); }
 
     void showsTheProfilesWithTheirTicks() {
-        auto* list = window_->findChild<QTreeView*>("lvwEnabledProfiles");
+        auto* list = harness_->Window().findChild<QTreeView*>("lvwEnabledProfiles");
         QVERIFY(list != nullptr);
         QAbstractItemModel* model = list->model();
         QCOMPARE(model->rowCount(), 3);
@@ -58,12 +41,12 @@ class CommandSpyWindowTest : public QObject {
         QCOMPARE(model->index(2, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
         QVERIFY(!SaveAction()->isEnabled());
         QCOMPARE(StatusPanel(1)->text(), QString());
-        QCOMPARE(window_->WindowOf("Security~CommandSpy")->windowTitle(),
+        QCOMPARE(harness_->PageWindowOf("Security~CommandSpy")->windowTitle(),
                  QStringLiteral("Security ~ CommandSpy"));
     }
 
     void tickingARowThroughTheWidgetMarksThePageDirty() {
-        auto* list = window_->findChild<QTreeView*>("lvwEnabledProfiles");
+        auto* list = harness_->Window().findChild<QTreeView*>("lvwEnabledProfiles");
         QVERIFY(list != nullptr);
         const QModelIndex row = list->model()->index(0, 0);
         QStyleOptionViewItem option;
@@ -79,18 +62,18 @@ class CommandSpyWindowTest : public QObject {
         QCOMPARE(row.data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
         QVERIFY(SaveAction()->isEnabled());
         QCOMPARE(StatusPanel(1)->text(), QStringLiteral("Save Required"));
-        QVERIFY(container_->Active()->SaveRequired());
+        QVERIFY(harness_->Container().Active()->SaveRequired());
 
         SaveAction()->trigger();
         QVERIFY(!SaveAction()->isEnabled());
         QCOMPARE(StatusPanel(1)->text(), QString());
-        QCOMPARE(hub_->ReadSetting("Security/CommandSpy/CommandSpySettings.tbl"),
+        QCOMPARE(harness_->Hub().ReadSetting("Security/CommandSpy/CommandSpySettings.tbl"),
                  test::Crlf({"tCommandSpySettings = {", "\ttEnabledProfiles = {", "\t\t[-1] = 1,",
                              "\t\t[0] = 1,", "\t\t[1] = 0,", "\t},", "}"}));
     }
 
     void thePageKeepsItsMinimumSize() {
-        PageWindow* page = window_->WindowOf("Security~CommandSpy");
+        PageWindow* page = harness_->PageWindowOf("Security~CommandSpy");
         QVERIFY(page != nullptr);
         QCOMPARE(page->minimumSize(), QSize(3400 / 15, 6075 / 15));
         page->resize(50, 50);
@@ -98,20 +81,14 @@ class CommandSpyWindowTest : public QObject {
     }
 
   private:
-    QAction* SaveAction() const {
-        auto* toolbar = window_->findChild<QToolBar*>("tlbFormToolbar");
-        return toolbar == nullptr ? nullptr : toolbar->findChild<QAction*>("SAVE");
-    }
+    QAction* SaveAction() const { return harness_->ToolbarButton("tlbFormToolbar", "SAVE"); }
+    // A panel of the page's own status bar, where its dirty mark shows.
     QLabel* StatusPanel(int index) const {
-        return window_->findChild<QLabel*>(QStringLiteral("panel%1").arg(index));
+        return harness_->ActivePageWindow()->findChild<QLabel*>(
+            QStringLiteral("panel%1").arg(index));
     }
 
-    std::unique_ptr<test::TempHub> hub_;
-    std::unique_ptr<store::TableFiles> files_;
-    QtHost host_;
-    shell::PageRegistry registry_;
-    std::unique_ptr<shell::Container> container_;
-    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<test::WindowHarness> harness_;
 };
 
 }  // namespace qb::gui

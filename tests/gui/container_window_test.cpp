@@ -19,13 +19,11 @@
 #include "gui/edit_dialog_view.h"
 #include "gui/main_window.h"
 #include "gui/page_view.h"
-#include "gui/qt_host.h"
 #include "gui/text.h"
 #include "gui/toolbar_binding.h"
-#include "shell/container.h"
 #include "shell/text_editor.h"
 #include "support/stub_pages.h"
-#include "support/temp_hub.h"
+#include "support/window_harness.h"
 
 namespace qb::gui {
 
@@ -34,40 +32,30 @@ class ContainerWindowTest : public QObject {
 
   private slots:
     void init() {
-        hub_ = std::make_unique<test::TempHub>();
-        hub_->Write("cfg/Profiles.xml", "<Name>Master</Name>\n");
-        hub_->WriteSetting("General/Globals/Version.tbl",
-                           test::Crlf({"tVersion = {", "\tsVersion = \"5.3.0\",", "}"}));
-        files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
+        harness_ = std::make_unique<test::WindowHarness>();
+        harness_->Hub().Write("cfg/Profiles.xml", "<Name>Master</Name>\n");
+        harness_->Hub().WriteSetting("General/Globals/Version.tbl",
+                                     test::Crlf({"tVersion = {", "\tsVersion = \"5.3.0\",", "}"}));
         std::vector<test::StubPageDesc> pages;
         for (const auto& key : test::TreeFunctionKeys(11))
             pages.push_back({key, "", {"gMenuFirstAddClick", "gMenuFirstEditClick"}});
         pages.push_back({"Games~Trivia~Settings", "", {}});
-        test::RegisterStubPages(registry_, pages, calls_);
-        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
-        container_->FillNavigation();
-        container_->LoadProfiles();
-        container_->SetupStatusBar();
-        host_.openTextEditor = [this](const std::string& file, const std::string& mode) {
-            container_->OpenTextEditor(file, mode);
+        test::RegisterStubPages(harness_->Registry(), pages, calls_);
+        harness_->Load();
+        harness_->Container().SetupStatusBar();
+        harness_->Host().openTextEditor = [this](const std::string& file, const std::string& mode) {
+            harness_->Container().OpenTextEditor(file, mode);
         };
-        window_ = std::make_unique<MainWindow>(*container_);
-        host_.SetParent(window_.get());
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+        QVERIFY(harness_->Show());
     }
 
     void cleanup() {
-        window_.reset();
-        container_.reset();
-        files_.reset();
-        registry_ = shell::PageRegistry();
+        harness_.reset();
         calls_.clear();
-        hub_.reset();
     }
 
     void theTreeShowsTheCatalogueWithBoldGroups() {
-        QTreeWidget* tree = window_->Tree();
+        QTreeWidget* tree = harness_->Window().Tree();
         QCOMPARE(tree->topLevelItemCount(), 1);
         QTreeWidgetItem* root = tree->topLevelItem(0);
         QCOMPARE(root->text(0), QStringLiteral("Quillbook"));
@@ -76,133 +64,135 @@ class ContainerWindowTest : public QObject {
         QCOMPARE(root->childCount(), 6);
         QCOMPARE(root->child(2)->text(0), QStringLiteral("Customise User"));
         QVERIFY(root->child(2)->font(0).bold());
-        QTreeWidgetItem* trivia = window_->NodeOf("Games~Trivia");
+        QTreeWidgetItem* trivia = harness_->Window().NodeOf("Games~Trivia");
         QVERIFY(trivia != nullptr);
         QVERIFY(!trivia->font(0).bold());
         QCOMPARE(trivia->childCount(), 2);
-        QCOMPARE(window_->windowTitle(), QStringLiteral("Vandrell's Quillbook 5.3.0"));
+        QCOMPARE(harness_->Window().windowTitle(), QStringLiteral("Vandrell's Quillbook 5.3.0"));
 
-        window_->SideBarToolbar()->ActionOf("EXPAND")->trigger();
+        harness_->Window().SideBarToolbar()->ActionOf("EXPAND")->trigger();
         QVERIFY(trivia->isExpanded());
-        window_->SideBarToolbar()->ActionOf("CLOSE")->trigger();
+        harness_->Window().SideBarToolbar()->ActionOf("CLOSE")->trigger();
         QVERIFY(!trivia->isExpanded());
         QVERIFY(root->isExpanded());
     }
 
     void groupButtonsDropTheirMenusAndOpenTheRowsPage() {
-        QAction* general = window_->GroupToolbar()->ActionOf("General");
+        QAction* general = harness_->Window().GroupToolbar()->ActionOf("General");
         QVERIFY(general != nullptr && general->menu() != nullptr);
-        const auto& menu = container_->Navigation().Group("General")->menu;
+        const auto& menu = harness_->Container().Navigation().Group("General")->menu;
         const QList<QAction*> items = general->menu()->actions();
         QCOMPARE(items.size(), static_cast<qsizetype>(menu.size()));
         QCOMPARE(items.at(2)->text(), QStringLiteral("Language~Commands"));
         QCOMPARE(items.at(2)->data().toString(), QStringLiteral("General~Commands"));
         items.at(2)->trigger();
-        QVERIFY(window_->WindowOf("General~Commands") != nullptr);
+        QVERIFY(harness_->PageWindowOf("General~Commands") != nullptr);
 
-        QAction* userActions = window_->GroupToolbar()->ActionOf("UserActions");
+        QAction* userActions = harness_->Window().GroupToolbar()->ActionOf("UserActions");
         QAction* jokes = nullptr;
         for (QAction* item : userActions->menu()->actions()) {
             if (item->text() == QStringLiteral("Jokes ~ Settings")) jokes = item;
         }
         QVERIFY(jokes != nullptr);
         jokes->trigger();
-        QCOMPARE(container_->Active()->Key(), std::string("Games~Trivia~Settings"));
-        QVERIFY(window_->GroupToolbar()->ActionOf("TREEVIEW") != nullptr);
+        QCOMPARE(harness_->Container().Active()->Key(), std::string("Games~Trivia~Settings"));
+        QVERIFY(harness_->Window().GroupToolbar()->ActionOf("TREEVIEW") != nullptr);
     }
 
     void aPageClickedTwiceInTheTreeIsOneWindow() {
-        QTreeWidgetItem* bots = window_->NodeOf("General~Bots");
-        window_->Tree()->expandAll();
+        QTreeWidgetItem* bots = harness_->Window().NodeOf("General~Bots");
+        harness_->Window().Tree()->expandAll();
         for (int i = 0; i < 2; ++i) {
-            const QRect rect = window_->Tree()->visualItemRect(bots);
-            QTest::mouseClick(window_->Tree()->viewport(), Qt::LeftButton, {}, rect.center());
+            const QRect rect = harness_->Window().Tree()->visualItemRect(bots);
+            QTest::mouseClick(harness_->Window().Tree()->viewport(), Qt::LeftButton, {},
+                              rect.center());
         }
-        QCOMPARE(window_->Area()->subWindowList().size(), static_cast<qsizetype>(1));
-        QCOMPARE(container_->OpenWindows().Count(), 1);
-        QCOMPARE(window_->Area()->activeSubWindow()->windowTitle(),
+        QCOMPARE(harness_->Window().Area()->subWindowList().size(), static_cast<qsizetype>(1));
+        QCOMPARE(harness_->Container().OpenWindows().Count(), 1);
+        QCOMPARE(harness_->Window().Area()->activeSubWindow()->windowTitle(),
                  QStringLiteral("General ~ Bots"));
     }
 
     void elevenPagesGiveTenMenuEntriesAndElevenDialogRows() {
         const auto keys = test::TreeFunctionKeys(11);
         for (const auto& key : keys)
-            window_->OpenPage(key);
+            harness_->Window().OpenPage(key);
         QCOMPARE(VisibleWindowItems().size(), static_cast<qsizetype>(10));
         QCOMPARE(VisibleWindowItems().back()->text(), "1&0. " + ToQt(shell::CaptionOfKey(keys[9])));
 
-        WindowsDialog dialog(*container_, window_.get());
+        WindowsDialog dialog(harness_->Container(), &harness_->Window());
         QCOMPARE(dialog.List()->topLevelItemCount(), 11);
         QCOMPARE(dialog.List()->topLevelItem(10)->text(0), ToQt(shell::CaptionOfKey(keys[10])));
-        window_->OpenPage(keys[0]);
+        harness_->Window().OpenPage(keys[0]);
         dialog.List()->setCurrentItem(dialog.List()->topLevelItem(10));
         dialog.findChild<QPushButton*>("cmdOK")->click();
-        QCOMPARE(container_->Active()->Key(), keys[10]);
-        QCOMPARE(window_->Area()->subWindowList().size(), static_cast<qsizetype>(11));
+        QCOMPARE(harness_->Container().Active()->Key(), keys[10]);
+        QCOMPARE(harness_->Window().Area()->subWindowList().size(), static_cast<qsizetype>(11));
     }
 
     void closingTheThirdOfFiveRenumbersTheMenu() {
         const auto keys = test::TreeFunctionKeys(5);
         for (const auto& key : keys)
-            window_->OpenPage(key);
-        window_->WindowOf(keys[2])->close();
-        QTRY_COMPARE(window_->Area()->subWindowList().size(), static_cast<qsizetype>(4));
+            harness_->Window().OpenPage(key);
+        harness_->PageWindowOf(keys[2])->close();
+        QTRY_COMPARE(harness_->Window().Area()->subWindowList().size(), static_cast<qsizetype>(4));
         const auto items = VisibleWindowItems();
         QCOMPARE(items.size(), static_cast<qsizetype>(4));
         QCOMPARE(items.at(2)->text(), "&3. " + ToQt(shell::CaptionOfKey(keys[3])));
         items.at(2)->trigger();
-        QCOMPARE(container_->Active()->Key(), keys[3]);
+        QCOMPARE(harness_->Container().Active()->Key(), keys[3]);
     }
 
     void anIntermediateNodesEntryStays() {
-        window_->Tree()->expandAll();
-        QTreeWidgetItem* trivia = window_->NodeOf("Games~Trivia");
-        QTest::mouseClick(window_->Tree()->viewport(), Qt::LeftButton, {},
-                          window_->Tree()->visualItemRect(trivia).center());
-        window_->OpenPage("General~Bots");
+        harness_->Window().Tree()->expandAll();
+        QTreeWidgetItem* trivia = harness_->Window().NodeOf("Games~Trivia");
+        QTest::mouseClick(harness_->Window().Tree()->viewport(), Qt::LeftButton, {},
+                          harness_->Window().Tree()->visualItemRect(trivia).center());
+        harness_->Window().OpenPage("General~Bots");
         QCOMPARE(VisibleWindowItems().size(), static_cast<qsizetype>(2));
-        window_->WindowOf("General~Bots")->close();
+        harness_->PageWindowOf("General~Bots")->close();
         QTRY_COMPARE(VisibleWindowItems().size(), static_cast<qsizetype>(1));
         QCOMPARE(VisibleWindowItems().front()->text(), QStringLiteral("&1. Games ~ Trivia"));
         VisibleWindowItems().front()->trigger();
-        QVERIFY(window_->Area()->subWindowList().isEmpty());
+        QVERIFY(harness_->Window().Area()->subWindowList().isEmpty());
     }
 
     void theGroupCounterKeepsRunningAcrossClosedWindows() {
-        const auto& menu = container_->Navigation().Group("General")->menu;
-        QAction* general = window_->GroupToolbar()->ActionOf("General");
+        const auto& menu = harness_->Container().Navigation().Group("General")->menu;
+        QAction* general = harness_->Window().GroupToolbar()->ActionOf("General");
         general->trigger();
-        QCOMPARE(container_->Active()->Key(), menu[0].key);
-        window_->WindowOf(menu[0].key)->close();
-        QTRY_VERIFY(window_->Area()->subWindowList().isEmpty());
+        QCOMPARE(harness_->Container().Active()->Key(), menu[0].key);
+        harness_->PageWindowOf(menu[0].key)->close();
+        QTRY_VERIFY(harness_->Window().Area()->subWindowList().isEmpty());
         general->trigger();
-        QCOMPARE(container_->Active()->Key(), menu[1].key);
-        QCOMPARE(container_->GroupCounter("General"), 2);
+        QCOMPARE(harness_->Container().Active()->Key(), menu[1].key);
+        QCOMPARE(harness_->Container().GroupCounter("General"), 2);
     }
 
     void theTreeviewButtonHidesTheSideBar() {
-        QVERIFY(window_->SideBar()->isVisible());
-        window_->GroupToolbar()->ActionOf("TREEVIEW")->trigger();
-        QVERIFY(!window_->SideBar()->isVisible());
-        window_->findChild<QAction*>("mnuToolsSideBar")->trigger();
-        QVERIFY(window_->SideBar()->isVisible());
+        QVERIFY(harness_->Window().SideBar()->isVisible());
+        harness_->Window().GroupToolbar()->ActionOf("TREEVIEW")->trigger();
+        QVERIFY(!harness_->Window().SideBar()->isVisible());
+        harness_->Window().findChild<QAction*>("mnuToolsSideBar")->trigger();
+        QVERIFY(harness_->Window().SideBar()->isVisible());
     }
 
     void theWindowAndItsPagesKeepTheirMinimumSizes() {
-        QCOMPARE(window_->minimumSize(), QSize(11790 / 15, 9060 / 15));
-        window_->resize(300, 200);
-        QVERIFY(window_->width() >= 786 && window_->height() >= 604);
-        window_->OpenPage("General~Bots");
-        PageWindow* page = window_->WindowOf("General~Bots");
+        QCOMPARE(harness_->Window().minimumSize(), QSize(11790 / 15, 9060 / 15));
+        harness_->Window().resize(300, 200);
+        QVERIFY(harness_->Window().width() >= 786 && harness_->Window().height() >= 604);
+        harness_->Window().OpenPage("General~Bots");
+        PageWindow* page = harness_->PageWindowOf("General~Bots");
         QCOMPARE(page->minimumSize(), QSize(3400 / 15, 6075 / 15));
     }
 
     void aRightClickPopsUpOnlyThePagesEntries() {
-        window_->OpenPage("General~Bots");
-        container_->Active()->Find("lvwRows");
-        auto& list = static_cast<shell::ListControl&>(*container_->Active()->Find("lvwRows"));
+        harness_->Window().OpenPage("General~Bots");
+        harness_->Container().Active()->Find("lvwRows");
+        auto& list =
+            static_cast<shell::ListControl&>(*harness_->Container().Active()->Find("lvwRows"));
         list.UserRightClick(1);
-        QMenu* popup = window_->LastPopup();
+        QMenu* popup = harness_->Window().LastPopup();
         QVERIFY(popup != nullptr);
         QCOMPARE(popup->actions().size(), static_cast<qsizetype>(2));
         QCOMPARE(popup->actions().at(1)->objectName(), QStringLiteral("mnuFirstEdit"));
@@ -211,13 +201,16 @@ class ContainerWindowTest : public QObject {
     }
 
     void theStatusBarShowsTheVersions() {
-        QCOMPARE(window_->StatusPanel(1)->text(), QStringLiteral("Installed Version = 5.3.0"));
-        window_->StatusPanel(2)->setText(QString());
-        container_->Status().SetText(2, "stale");
-        QCOMPARE(window_->StatusPanel(2)->text(), QStringLiteral("stale"));
-        QCOMPARE(window_->UpdateTimer()->interval(), 60000);
-        QMetaObject::invokeMethod(window_->UpdateTimer(), "timeout", Qt::DirectConnection);
-        QCOMPARE(window_->StatusPanel(2)->text(), QStringLiteral("Current Version = Unknown"));
+        QCOMPARE(harness_->Window().StatusPanel(1)->text(),
+                 QStringLiteral("Installed Version = 5.3.0"));
+        harness_->Window().StatusPanel(2)->setText(QString());
+        harness_->Container().Status().SetText(2, "stale");
+        QCOMPARE(harness_->Window().StatusPanel(2)->text(), QStringLiteral("stale"));
+        QCOMPARE(harness_->Window().UpdateTimer()->interval(), 60000);
+        QMetaObject::invokeMethod(harness_->Window().UpdateTimer(), "timeout",
+                                  Qt::DirectConnection);
+        QCOMPARE(harness_->Window().StatusPanel(2)->text(),
+                 QStringLiteral("Current Version = Unknown"));
     }
 
     void theEditDialogPaintsGovernsAndClosesAsCancel() {
@@ -229,7 +222,7 @@ class ContainerWindowTest : public QObject {
         request.values = {"Bot", "", "Kick", ""};
         request.comboItems = {{"Kick", "Ban"}};
         request.required = 3;
-        EditDialogView dialog(request, window_.get());
+        EditDialogView dialog(request, &harness_->Window());
         dialog.show();
         auto* name = dialog.findChild<QLineEdit*>("txtTextBox(0)");
         auto* description = dialog.findChild<QLineEdit*>("txtTextBox(1)");
@@ -259,7 +252,7 @@ class ContainerWindowTest : public QObject {
         QVERIFY(!dialog.isVisible());
         QCOMPARE(dialog.Result().mode, std::string());
 
-        EditDialogView second(request, window_.get());
+        EditDialogView second(request, &harness_->Window());
         second.show();
         second.findChild<QLineEdit*>("txtTextBox(0)")->setText(QString());
         QTest::keyClicks(second.findChild<QLineEdit*>("txtTextBox(0)"), "X");
@@ -276,7 +269,7 @@ class ContainerWindowTest : public QObject {
         request.values = {"", "", "", ""};
         request.bounds = {{1, 5, 1}};
         request.required = 1;
-        EditDialogView dialog(request, window_.get());
+        EditDialogView dialog(request, &harness_->Window());
         dialog.show();
         auto* spin = dialog.findChild<QSpinBox*>("updUpDown(0)");
         QVERIFY(spin != nullptr);
@@ -291,23 +284,24 @@ class ContainerWindowTest : public QObject {
     }
 
     void theTextEditorShowsTheFileWithPlainLineEnds() {
-        hub_->WriteSetting("Notes.txt", "one\r\ntwo\r\n");
-        host_.OpenTextEditor("Notes.txt", "E");
-        PageWindow* editor = window_->WindowOf(shell::kTextEditorKey);
+        harness_->Hub().WriteSetting("Notes.txt", "one\r\ntwo\r\n");
+        harness_->Host().OpenTextEditor("Notes.txt", "E");
+        PageWindow* editor = harness_->PageWindowOf(shell::kTextEditorKey);
         QVERIFY(editor != nullptr);
         auto* text = editor->findChild<QPlainTextEdit*>("txtTextBox");
         QCOMPARE(text->toPlainText(), QStringLiteral("one\ntwo\n"));
         QTest::keyClicks(text, "three");
         text->moveCursor(QTextCursor::End);
-        auto& model = static_cast<shell::TextBox&>(*container_->Active()->Find("txtTextBox"));
+        auto& model =
+            static_cast<shell::TextBox&>(*harness_->Container().Active()->Find("txtTextBox"));
         QVERIFY(model.Text().find("\r\n") != std::string::npos);
         QVERIFY(model.Text().find('\n') == model.Text().find("\r\n") + 1);
-        QVERIFY(container_->Active()->SaveRequired());
-        QCOMPARE(container_->OpenWindows().Count(), 0);
+        QVERIFY(harness_->Container().Active()->SaveRequired());
+        QCOMPARE(harness_->Container().OpenWindows().Count(), 0);
     }
 
     void theAboutBoxAndItsSystemInformation() {
-        AboutDialog about(window_.get());
+        AboutDialog about(&harness_->Window());
         QCOMPARE(about.windowTitle(), QStringLiteral("About Quillbook"));
         QCOMPARE(about.findChild<QLabel*>("lblVersion")->text(), QStringLiteral("Version 5.3.0"));
         QVERIFY(about.findChild<QLabel*>("lblDescription")
@@ -330,19 +324,15 @@ class ContainerWindowTest : public QObject {
     QList<QAction*> VisibleWindowItems() const {
         QList<QAction*> items;
         for (int i = 1; i <= 10; ++i) {
-            auto* item = window_->findChild<QAction*>(QStringLiteral("mnuWindows%1").arg(i));
+            auto* item =
+                harness_->Window().findChild<QAction*>(QStringLiteral("mnuWindows%1").arg(i));
             if (item != nullptr && item->isVisible()) items.append(item);
         }
         return items;
     }
 
-    std::unique_ptr<test::TempHub> hub_;
-    std::unique_ptr<store::TableFiles> files_;
-    QtHost host_;
-    shell::PageRegistry registry_;
     std::vector<std::string> calls_;
-    std::unique_ptr<shell::Container> container_;
-    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<test::WindowHarness> harness_;
 };
 
 }  // namespace qb::gui

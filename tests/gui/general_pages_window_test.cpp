@@ -2,21 +2,15 @@
 // file, the balloon over the switches list, and the news article in a real message box with the
 // icon its symbol picks.
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTimer>
-#include <QToolBar>
 #include <QToolTip>
 #include <QTreeView>
 #include <QtTest>
 
 #include "gui/main_window.h"
-#include "gui/qt_host.h"
-#include "pages/pages.h"
-#include "shell/container.h"
-#include "support/temp_hub.h"
+#include "support/window_harness.h"
 
 namespace qb::gui {
 
@@ -25,31 +19,19 @@ class GeneralPagesWindowTest : public QObject {
 
   private slots:
     void init() {
-        hub_ = std::make_unique<test::TempHub>();
-        hub_->WriteSetting(
+        harness_ = std::make_unique<test::WindowHarness>();
+        harness_->Hub().WriteSetting(
             "General/Globals/Switches.tbl",
             test::Crlf({"tSwitches = {", "\tbAntiVirus = 1,", "\tbRussianRoulette = 0,", "}"}));
-        hub_->Write("scripts/Vandrell's Scripts/News/News.tbl",
-                    test::Crlf({"tNews = {", "\t[1] = \"2026-01-02|Warning|Update now|3\",",
-                                "\t[2] = \"2026-01-03|Alert|Site down|4\",", "}"}));
-        files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
-        pages::RegisterAllPages(registry_);
-        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
-        container_->FillNavigation();
-        container_->LoadProfiles();
-        window_ = std::make_unique<MainWindow>(*container_);
-        host_.SetParent(window_.get());
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+        harness_->Hub().Write(
+            "scripts/Vandrell's Scripts/News/News.tbl",
+            test::Crlf({"tNews = {", "\t[1] = \"2026-01-02|Warning|Update now|3\",",
+                        "\t[2] = \"2026-01-03|Alert|Site down|4\",", "}"}));
+        harness_->Load();
+        QVERIFY(harness_->Show());
     }
 
-    void cleanup() {
-        window_.reset();
-        container_.reset();
-        files_.reset();
-        registry_ = shell::PageRegistry();
-        hub_.reset();
-    }
+    void cleanup() { harness_.reset(); }
 
     // The border is two bytes of the scripts' code page that are no ASCII: the widget shows them
     // as the characters they are, and a save writes the same two bytes, typed over or not.
@@ -62,9 +44,9 @@ class GeneralPagesWindowTest : public QObject {
     void theBorderGoesFromFileToWidgetToFileUnchanged() {
         QFETCH(bool, typed);
         const std::string file = SettingsFile("\xBB\xAB");
-        hub_->WriteSetting(kSettings, file);
-        window_->OpenPage("General~Settings");
-        auto* border = window_->findChild<QLineEdit*>("txtTextBox(0)");
+        harness_->Hub().WriteSetting(kSettings, file);
+        harness_->Window().OpenPage("General~Settings");
+        auto* border = harness_->Window().findChild<QLineEdit*>("txtTextBox(0)");
         QVERIFY(border != nullptr);
         QCOMPARE(border->text(), kBorder);
         if (typed) {
@@ -72,60 +54,60 @@ class GeneralPagesWindowTest : public QObject {
             QTest::keyClicks(border, kBorder);
         } else {
             // Ticked and unticked again: the page has a change to save, and the same values.
-            auto* flat = window_->findChild<QCheckBox*>("chkCheckBox(1)");
+            auto* flat = harness_->Window().findChild<QCheckBox*>("chkCheckBox(1)");
             QVERIFY(flat != nullptr);
             flat->click();
             flat->click();
         }
         QVERIFY(Action("SAVE")->isEnabled());
         Action("SAVE")->trigger();
-        QCOMPARE(hub_->ReadSetting(kSettings), file);
+        QCOMPARE(harness_->Hub().ReadSetting(kSettings), file);
     }
 
     // What the scripts' readers trim, the page loses: the blank behind a typed border is saved,
     // and gone when the page reads the file again.
     void aBorderEndingInABlankLosesItOnReload() {
-        hub_->WriteSetting(kSettings, SettingsFile("\xBB\xAB"));
-        window_->OpenPage("General~Settings");
-        auto* border = window_->findChild<QLineEdit*>("txtTextBox(0)");
+        harness_->Hub().WriteSetting(kSettings, SettingsFile("\xBB\xAB"));
+        harness_->Window().OpenPage("General~Settings");
+        auto* border = harness_->Window().findChild<QLineEdit*>("txtTextBox(0)");
         QVERIFY(border != nullptr);
         QTest::keyClick(border, Qt::Key_End);
         QTest::keyClick(border, Qt::Key_Space);
         Action("SAVE")->trigger();
-        QCOMPARE(hub_->ReadSetting(kSettings), SettingsFile("\xBB\xAB "));
+        QCOMPARE(harness_->Hub().ReadSetting(kSettings), SettingsFile("\xBB\xAB "));
         QMessageBox::Icon shown = QMessageBox::NoIcon;
         QString title;
-        QTimer::singleShot(0, this, [&] { CloseNextBox(shown, title); });
+        CloseNextBox(shown, title);
         Action("DISCARD")->trigger();
         QCOMPARE(title, QStringLiteral("Discard changes?"));
         QCOMPARE(border->text(), kBorder);
     }
 
     void aClickOnASwitchShowsItsDescriptionWhereThereIsOne() {
-        window_->OpenPage("General~Switches");
-        auto* list = window_->findChild<QTreeView*>("lvwSwitches");
+        harness_->Window().OpenPage("General~Switches");
+        auto* list = harness_->Window().findChild<QTreeView*>("lvwSwitches");
         QVERIFY(list != nullptr);
         QTRY_VERIFY(list->visualRect(list->model()->index(1, 0)).isValid());
         QCOMPARE(list->model()->rowCount(), 2);
-        ClickRow(list, 0);
+        test::ClickRow(*list, 0);
         QTRY_VERIFY(QToolTip::isVisible());
         QVERIFY(QToolTip::text().contains(QStringLiteral("<b>AntiVirus</b>")));
         QVERIFY(QToolTip::text().contains(QStringLiteral("Detects Win.Tibick.32 worm")));
         // The old description table has no "RussianRoulette": the balloon goes.
-        ClickRow(list, 1);
+        test::ClickRow(*list, 1);
         QTRY_VERIFY(!QToolTip::isVisible());
     }
 
     void aNewsArticleOpensInABoxWithItsSymbolsIcon() {
-        window_->OpenPage("General~News");
-        auto* list = window_->findChild<QTreeView*>("lvwNews");
+        harness_->Window().OpenPage("General~News");
+        auto* list = harness_->Window().findChild<QTreeView*>("lvwNews");
         QVERIFY(list != nullptr);
         QTRY_VERIFY(list->visualRect(list->model()->index(1, 0)).isValid());
         QCOMPARE(list->model()->rowCount(), 2);
         QVERIFY(list->isColumnHidden(2) && !list->isColumnHidden(1));
         QMessageBox::Icon shown = QMessageBox::NoIcon;
         QString title;
-        QTimer::singleShot(0, this, [&] { CloseNextBox(shown, title); });
+        CloseNextBox(shown, title);
         const QRect row = list->visualRect(list->model()->index(1, 0));
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row.center());
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, row.center());
@@ -144,34 +126,20 @@ class GeneralPagesWindowTest : public QObject {
                            "\tsRightClickName = \"\",", "\tsPrefix = \"!\",", "}"});
     }
 
+    // A button of the open page's form toolbar.
     QAction* Action(const char* key) const {
-        auto* page = window_->WindowOf("General~Settings");
-        auto* toolbar = page == nullptr ? nullptr : page->findChild<QToolBar*>("tlbFormToolbar");
-        return toolbar == nullptr ? nullptr : toolbar->findChild<QAction*>(key);
+        return harness_->ToolbarButton("tlbFormToolbar", key);
     }
 
-    void ClickRow(QTreeView* list, int row) {
-        const QRect rect = list->visualRect(list->model()->index(row, 0));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, rect.center());
-    }
-
+    // Closes the message box that is about to open with OK, noting its icon and title.
     void CloseNextBox(QMessageBox::Icon& icon, QString& title) {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr) {
-            QTimer::singleShot(10, this, [&] { CloseNextBox(icon, title); });
-            return;
-        }
-        icon = box->icon();
-        title = box->windowTitle();
-        box->button(QMessageBox::Ok)->click();
+        test::AnswerNextBox(*this, QMessageBox::Ok, [&](const QMessageBox& box) {
+            icon = box.icon();
+            title = box.windowTitle();
+        });
     }
 
-    std::unique_ptr<test::TempHub> hub_;
-    std::unique_ptr<store::TableFiles> files_;
-    QtHost host_;
-    shell::PageRegistry registry_;
-    std::unique_ptr<shell::Container> container_;
-    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<test::WindowHarness> harness_;
 };
 
 }  // namespace qb::gui

@@ -4,15 +4,12 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QTimer>
-#include <QToolBar>
 #include <QTreeView>
 #include <QtTest>
 
 #include "gui/main_window.h"
 #include "gui/qt_host.h"
-#include "pages/pages.h"
-#include "shell/container.h"
-#include "support/temp_hub.h"
+#include "support/window_harness.h"
 
 namespace qb::gui {
 
@@ -21,36 +18,23 @@ class LanguageWindowTest : public QObject {
 
   private slots:
     void init() {
-        hub_ = std::make_unique<test::TempHub>();
-        hub_->WriteSetting(kFiles + std::string("DEFAULT.tbl"),
-                           test::Crlf({"tScriptRightClick = {", "\tsHelp = \"Help\",", "}"}));
-        hub_->WriteSetting(kFiles + std::string("English.TBL"),
-                           test::Crlf({"tScriptRightClick = {", "\tsHelp = \"Help me\",", "}"}));
-        hub_->WriteSetting(
-            "Language/RightClick/RightClickLanguages.tbl",
-            test::Crlf({"tRightClickLanguages = {", "\tCurrent = \"DEFAULT\",", "}"}));
-        files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
-        pages::RegisterAllPages(registry_);
-        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
-        container_->FillNavigation();
-        container_->LoadProfiles();
-        window_ = std::make_unique<MainWindow>(*container_);
-        host_.SetParent(window_.get());
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
-        window_->OpenPage("General~RightClicks");
+        harness_ = std::make_unique<test::WindowHarness>();
+        test::TempHub& hub = harness_->Hub();
+        hub.WriteSetting(kFiles + std::string("DEFAULT.tbl"),
+                         test::Crlf({"tScriptRightClick = {", "\tsHelp = \"Help\",", "}"}));
+        hub.WriteSetting(kFiles + std::string("English.TBL"),
+                         test::Crlf({"tScriptRightClick = {", "\tsHelp = \"Help me\",", "}"}));
+        hub.WriteSetting("Language/RightClick/RightClickLanguages.tbl",
+                         test::Crlf({"tRightClickLanguages = {", "\tCurrent = \"DEFAULT\",", "}"}));
+        harness_->Load();
+        QVERIFY(harness_->Show());
+        harness_->Window().OpenPage("General~RightClicks");
     }
 
-    void cleanup() {
-        window_.reset();
-        container_.reset();
-        files_.reset();
-        registry_ = shell::PageRegistry();
-        hub_.reset();
-    }
+    void cleanup() { harness_.reset(); }
 
     void openListsTheFileChosenInTheFileDialog() {
-        PageWindow* page = window_->WindowOf("General~RightClicks");
+        PageWindow* page = harness_->PageWindowOf("General~RightClicks");
         QVERIFY(page != nullptr);
         QCOMPARE(page->windowTitle(), QStringLiteral("General ~ RightClick"));
         auto* list = page->findChild<QTreeView*>("lvwFiles");
@@ -60,18 +44,18 @@ class LanguageWindowTest : public QObject {
         QString title;
         QStringList filters;
         const QString chosen =
-            QString::fromStdString((hub_->Settings() / kFiles / "English.TBL").string());
+            QString::fromStdString((harness_->Hub().Settings() / kFiles / "English.TBL").string());
         QTimer::singleShot(0, this, [&] { ChooseInNextDialog(chosen, title, filters); });
-        auto* toolbar = page->findChild<QToolBar*>("tlbFiles");
-        QVERIFY(toolbar != nullptr);
-        toolbar->findChild<QAction*>("OPEN")->trigger();
+        QAction* open = harness_->ToolbarButton("tlbFiles", "OPEN");
+        QVERIFY(open != nullptr);
+        open->trigger();
 
         QCOMPARE(title, QStringLiteral("Select Language File to open"));
         QCOMPARE(filters, NameFilters("(*.TBL)|*.tbl"));
         QCOMPARE(list->model()->rowCount(), 2);
         QCOMPARE(list->model()->index(1, 0).data().toString(), QStringLiteral("English"));
         // Listing a language is no change to save.
-        QVERIFY(!container_->Active()->SaveRequired());
+        QVERIFY(!harness_->Container().Active()->SaveRequired());
     }
 
     // The scripts' home system ignores letter case, and so does the dialog's filter.
@@ -104,12 +88,7 @@ class LanguageWindowTest : public QObject {
         QMetaObject::invokeMethod(dialog, "accept");
     }
 
-    std::unique_ptr<test::TempHub> hub_;
-    std::unique_ptr<store::TableFiles> files_;
-    QtHost host_;
-    shell::PageRegistry registry_;
-    std::unique_ptr<shell::Container> container_;
-    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<test::WindowHarness> harness_;
 };
 
 }  // namespace qb::gui

@@ -6,16 +6,12 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QSignalSpy>
-#include <QToolBar>
 #include <QTreeView>
 #include <QtTest>
 
 #include "gui/main_window.h"
 #include "gui/page_view.h"
-#include "gui/qt_host.h"
-#include "pages/pages.h"
-#include "shell/container.h"
-#include "support/temp_hub.h"
+#include "support/window_harness.h"
 
 namespace qb::gui {
 
@@ -24,32 +20,20 @@ class MatrixWindowTest : public QObject {
 
   private slots:
     void init() {
-        hub_ = std::make_unique<test::TempHub>();
+        harness_ = std::make_unique<test::WindowHarness>();
         std::string xml = "<Profiles>\r\n";
         for (int i = 0; i < kProfiles - 1; ++i)
             xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
-        hub_->Write("cfg/Profiles.xml", xml + "</Profiles>\r\n");
-        hub_->WriteSetting("Communication/Talk/Talk.tbl", "");
-        files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
-        pages::RegisterAllPages(registry_);
-        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
-        container_->LoadProfiles();
-        window_ = std::make_unique<MainWindow>(*container_);
-        window_->resize(1000, 800);
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+        harness_->Hub().Write("cfg/Profiles.xml", xml + "</Profiles>\r\n");
+        harness_->Hub().WriteSetting("Communication/Talk/Talk.tbl", "");
+        harness_->Load();
+        QVERIFY(harness_->Show(QSize(1000, 800)));
     }
 
-    void cleanup() {
-        window_.reset();
-        container_.reset();
-        files_.reset();
-        registry_ = shell::PageRegistry();
-        hub_.reset();
-    }
+    void cleanup() { harness_.reset(); }
 
     void tenThousandRowsOpenOnceAndFlipAtTheBottom() {
-        window_->OpenPage("Communication~Talk");
+        harness_->Window().OpenPage("Communication~Talk");
         QTreeView* list = List();
         QVERIFY(list != nullptr);
         QAbstractItemModel* model = list->model();
@@ -77,18 +61,19 @@ class MatrixWindowTest : public QObject {
         QVERIFY(!SaveAction()->isEnabled());
         // The cell is the file's last; the page reads it back as "No", for no one-key read goes
         // past line 5000 of a file.
-        QVERIFY(hub_->ReadSetting("Communication/Talk/Talk.tbl")
+        QVERIFY(harness_->Hub()
+                    .ReadSetting("Communication/Talk/Talk.tbl")
                     .ends_with("\t\t[98] = 1,\r\n\t},\r\n}\r\n"));
     }
 
     void thePopUpMenuOffersTheOneFlipTheCellAllows() {
-        window_->OpenPage("Communication~Talk");
+        harness_->Window().OpenPage("Communication~Talk");
         QTreeView* list = List();
         QVERIFY(list != nullptr);
         QTRY_COMPARE(list->model()->rowCount(), kProfiles * kProfiles);
         const QModelIndex row = list->model()->index(1, 0);
         emit list->customContextMenuRequested(list->visualRect(row).center());
-        QMenu* menu = window_->LastPopup();
+        QMenu* menu = harness_->Window().LastPopup();
         QVERIFY(menu != nullptr);
         QCOMPARE(menu->actions().size(), 1);
         QCOMPARE(menu->actions().front()->objectName(), QStringLiteral("mnuTrueFalseTrue"));
@@ -96,7 +81,7 @@ class MatrixWindowTest : public QObject {
         QCOMPARE(list->model()->index(1, 3).data().toString(), QStringLiteral("Yes"));
 
         emit list->customContextMenuRequested(list->visualRect(row).center());
-        menu = window_->LastPopup();
+        menu = harness_->Window().LastPopup();
         QCOMPARE(menu->actions().size(), 1);
         QCOMPARE(menu->actions().front()->objectName(), QStringLiteral("mnuTrueFalseFalse"));
         menu->actions().front()->trigger();
@@ -104,13 +89,11 @@ class MatrixWindowTest : public QObject {
     }
 
     void aFilterButtonIsPressedByItsMenuAndLiftedByItsClick() {
-        window_->OpenPage("Arcade~Permissions");
+        harness_->Window().OpenPage("Arcade~Permissions");
         QTreeView* list = List();
         QVERIFY(list != nullptr);
         QTRY_COMPARE(list->model()->rowCount(), 5 * kProfiles);
-        auto* toolbar = window_->findChild<QToolBar*>("tlbListview");
-        QVERIFY(toolbar != nullptr);
-        QAction* profile = toolbar->findChild<QAction*>("PROFILE");
+        QAction* profile = harness_->ToolbarButton("tlbListview", "PROFILE");
         QVERIFY(profile != nullptr && profile->menu() != nullptr);
         QVERIFY(!profile->isChecked());
         QAction* entry = nullptr;
@@ -132,21 +115,12 @@ class MatrixWindowTest : public QObject {
     static constexpr int kProfiles = 100;  // Unregistered and 99 of the hub's
 
     QTreeView* List() const {
-        PageWindow* page = window_->WindowOf(container_->Active()->Key());
+        PageWindow* page = harness_->ActivePageWindow();
         return page == nullptr ? nullptr : page->findChild<QTreeView*>("lvwPermissions");
     }
-    QAction* SaveAction() const {
-        PageWindow* page = window_->WindowOf(container_->Active()->Key());
-        auto* toolbar = page->findChild<QToolBar*>("tlbFormToolbar");
-        return toolbar == nullptr ? nullptr : toolbar->findChild<QAction*>("SAVE");
-    }
+    QAction* SaveAction() const { return harness_->ToolbarButton("tlbFormToolbar", "SAVE"); }
 
-    std::unique_ptr<test::TempHub> hub_;
-    std::unique_ptr<store::TableFiles> files_;
-    QtHost host_;
-    shell::PageRegistry registry_;
-    std::unique_ptr<shell::Container> container_;
-    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<test::WindowHarness> harness_;
 };
 
 }  // namespace qb::gui

@@ -6,12 +6,10 @@
 #include <QtTest>
 
 #include "gui/main_window.h"
-#include "gui/qt_host.h"
 #include "hublink/qt/socket_sessions.h"
 #include "pages/pages.h"
-#include "shell/container.h"
 #include "support/fake_hub.h"
-#include "support/temp_hub.h"
+#include "support/window_harness.h"
 
 namespace qb::gui {
 
@@ -21,42 +19,37 @@ class PortalWindowTest : public QObject {
   private slots:
     void tickConnectsAndACutOffShowsInTheStatusBar() {
         test::FakeHub hub1;
-        test::TempHub hub;
-        hub.WriteSetting("Communication/Portal/PortalSettings.tbl",
-                         test::Crlf({"tPortalSettings = {",
-                                     "\ttUser = {",
-                                     "\t\tsUsername = \"Portal\",",
-                                     "\t\tsDescription = \"Links two hubs\",",
-                                     "\t\tsEmail = \"portal@example.org\",",
-                                     "\t\tsClientIP = \"192.0.2.7\",",
-                                     "\t},",
-                                     "\ttHubs = {",
-                                     "\t\t[1] = {",
-                                     "\t\t\tsHubAddress = \"" + hub1.Address() + "\",",
-                                     "\t\t\tsClientPassword = \"\",",
-                                     "\t\t\tsClientPort = \"0\",",
-                                     "\t\t},",
-                                     "\t\t[2] = {",
-                                     "\t\t\tsHubAddress = \"other.example.net:411\",",
-                                     "\t\t\tsClientPassword = \"\",",
-                                     "\t\t\tsClientPort = \"\",",
-                                     "\t\t},",
-                                     "\t},",
-                                     "\ttIgnoreNicks = {",
-                                     "\t\t[1] = \"HubSecurity\",",
-                                     "\t},"}));
-        store::TableFiles files(hub.ProgramFolder());
-        QtHost host;
-        shell::PageRegistry registry;
+        test::WindowHarness harness;
+        harness.Hub().WriteSetting("Communication/Portal/PortalSettings.tbl",
+                                   test::Crlf({"tPortalSettings = {",
+                                               "\ttUser = {",
+                                               "\t\tsUsername = \"Portal\",",
+                                               "\t\tsDescription = \"Links two hubs\",",
+                                               "\t\tsEmail = \"portal@example.org\",",
+                                               "\t\tsClientIP = \"192.0.2.7\",",
+                                               "\t},",
+                                               "\ttHubs = {",
+                                               "\t\t[1] = {",
+                                               "\t\t\tsHubAddress = \"" + hub1.Address() + "\",",
+                                               "\t\t\tsClientPassword = \"\",",
+                                               "\t\t\tsClientPort = \"0\",",
+                                               "\t\t},",
+                                               "\t\t[2] = {",
+                                               "\t\t\tsHubAddress = \"other.example.net:411\",",
+                                               "\t\t\tsClientPassword = \"\",",
+                                               "\t\t\tsClientPort = \"\",",
+                                               "\t\t},",
+                                               "\t},",
+                                               "\ttIgnoreNicks = {",
+                                               "\t\t[1] = \"HubSecurity\",",
+                                               "\t},"}));
         pages::PageServices services;
         services.hubLink = hublink::SocketSessionsFactory();
-        pages::RegisterAllPages(registry, services);
-        shell::Container container(files, host, registry);
-        container.LoadProfiles();
-        MainWindow window(container);
-        window.show();
+        pages::RegisterAllPages(harness.Registry(), services);
+        harness.Load();
+        QVERIFY(harness.Show());
+        MainWindow& window = harness.Window();
         window.OpenPage("Communication~Portal");
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
 
         auto* list = window.findChild<QTreeView*>("lvwHubs");
         QVERIFY(list != nullptr);

@@ -1,9 +1,7 @@
 // The start before the window opens, with the rebuild question in a real message box.
 
-#include <QAbstractButton>
 #include <QLabel>
 #include <QMessageBox>
-#include <QTimer>
 #include <QtTest>
 #include <filesystem>
 
@@ -13,6 +11,7 @@
 #include "pages/pages.h"
 #include "shell/container.h"
 #include "support/temp_hub.h"
+#include "support/window_harness.h"
 
 namespace qb::gui {
 
@@ -82,14 +81,8 @@ class StartWindowTest : public QObject {
     // Clicks a button of the message box that is about to open, and notes its title and text.
     void AnswerNextBox(QMessageBox::StandardButton button) {
         seen_.clear();
-        QTimer::singleShot(0, this, [this, button] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr) {
-                AnswerNextBox(button);  // not open yet: look again
-                return;
-            }
-            seen_ = box->windowTitle() + "\n" + box->text();
-            box->button(button)->click();
+        test::AnswerNextBox(*this, button, [this](const QMessageBox& box) {
+            seen_ = box.windowTitle() + "\n" + box.text();
         });
     }
 
