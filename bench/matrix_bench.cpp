@@ -18,18 +18,10 @@ namespace {
 
 using namespace qb;
 
-// `rows` rows in all: Unregistered and the hub's profiles.
-std::string ProfilesXml(int rows) {
-    std::string xml = "<Profiles>\r\n";
-    for (int i = 0; i < rows - 1; ++i)
-        xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
-    return xml + "</Profiles>\r\n";
-}
-
 // A hub whose matrix files the builder has written.
 struct MatrixHub {
     explicit MatrixHub(int rows) {
-        hub.Write("cfg/Profiles.xml", ProfilesXml(rows));
+        hub.Write("cfg/Profiles.xml", test::ProfilesXml(rows - 1));
         for (const char* folder : {"Communication/Talk", "TheVellum/Arcade"})
             std::filesystem::create_directories(hub.Settings() / folder);
         store::BuildRun run{files, rows - 2};

@@ -13,17 +13,10 @@ namespace {
 
 using namespace qb;
 
-std::string ProfilesXml(int count) {
-    std::string xml = "<Profiles>\r\n";
-    for (int i = 0; i < count; ++i)
-        xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
-    return xml + "</Profiles>\r\n";
-}
-
 void CommandSpyOpenAndSave(benchmark::State& state) {
     const int profiles = static_cast<int>(state.range(0));
     test::TempHub hub;
-    hub.Write("cfg/Profiles.xml", ProfilesXml(profiles));
+    hub.Write("cfg/Profiles.xml", test::ProfilesXml(profiles));
     hub.WriteSetting("Security/CommandSpy/CommandSpySettings.tbl", "");
     store::TableFiles files(hub.ProgramFolder());
     std::ostringstream transcript;

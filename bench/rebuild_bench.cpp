@@ -17,20 +17,13 @@ namespace {
 
 using namespace qb;
 
-std::string ProfilesXml(int count) {
-    std::string xml = "<Profiles>\r\n";
-    for (int i = 0; i < count; ++i)
-        xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
-    return xml + "</Profiles>\r\n";
-}
-
 // A hub of `profiles` profiles whose tree one rebuild has made already.
 struct BuiltHub {
     explicit BuiltHub(int profiles) : run{files, profiles - 1} {
-        hub.Write("cfg/Profiles.xml", ProfilesXml(profiles));
+        hub.Write("cfg/Profiles.xml", test::ProfilesXml(profiles));
         pages::RegisterAllBuilders(builders);
         shell::RebuildSettings(run, builders);
-        files.WriteTextFile(shell::kProfileCopySetting, ProfilesXml(profiles));
+        files.WriteTextFile(shell::kProfileCopySetting, test::ProfilesXml(profiles));
     }
     test::TempHub hub;
     store::TableFiles files{hub.ProgramFolder()};

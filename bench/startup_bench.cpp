@@ -22,13 +22,6 @@ namespace {
 using namespace qb;
 namespace fs = std::filesystem;
 
-std::string ProfilesXml(int count) {
-    std::string xml = "<Profiles>\r\n";
-    for (int i = 0; i < count; ++i)
-        xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
-    return xml + "</Profiles>\r\n";
-}
-
 // Runs the start once without a window, so that the measured starts find nothing to rebuild.
 void Build(const test::TempHub& hub) {
     store::TableFiles files(hub.ProgramFolder());
@@ -65,7 +58,7 @@ void StartToShownWindow(benchmark::State& state, const fs::path& scripts, bool i
 
 void StartAtProfiles(benchmark::State& state, bool indexing) {
     test::TempHub hub;
-    hub.Write("cfg/Profiles.xml", ProfilesXml(static_cast<int>(state.range(0))));
+    hub.Write("cfg/Profiles.xml", test::ProfilesXml(static_cast<int>(state.range(0))));
     Build(hub);
     StartToShownWindow(state, hub.Scripts(), indexing);
     state.counters["profiles"] = static_cast<double>(state.range(0));

@@ -21,10 +21,7 @@ class MatrixWindowTest : public QObject {
   private slots:
     void init() {
         harness_ = std::make_unique<test::WindowHarness>();
-        std::string xml = "<Profiles>\r\n";
-        for (int i = 0; i < kProfiles - 1; ++i)
-            xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
-        harness_->Hub().Write("cfg/Profiles.xml", xml + "</Profiles>\r\n");
+        harness_->Hub().Write("cfg/Profiles.xml", test::ProfilesXml(kProfiles - 1));
         harness_->Hub().WriteSetting("Communication/Talk/Talk.tbl", "");
         harness_->Load();
         QVERIFY(harness_->Show(QSize(1000, 800)));

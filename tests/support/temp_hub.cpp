@@ -68,4 +68,11 @@ std::string Crlf(std::initializer_list<std::string_view> lines) {
     return text;
 }
 
+std::string ProfilesXml(int count) {
+    std::string xml = "<Profiles>\r\n";
+    for (int i = 0; i < count; ++i)
+        xml += "<Name>P" + std::to_string(i) + "</Name>\r\n";
+    return xml + "</Profiles>\r\n";
+}
+
 }  // namespace qb::test

@@ -35,4 +35,7 @@ class TempHub {
 // Lines joined and closed by CRLF, as the writers make them.
 std::string Crlf(std::initializer_list<std::string_view> lines);
 
+// A cfg/Profiles.xml of `count` profiles named P0, P1 and on, for hubs of any size.
+std::string ProfilesXml(int count);
+
 }  // namespace qb::test
