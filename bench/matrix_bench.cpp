@@ -5,43 +5,32 @@
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
-#include <sstream>
 
 #include "pages/archive/archive.h"
 #include "pages/communication/communication.h"
-#include "pages/pages.h"
-#include "shell/container.h"
-#include "shell/scripted_host.h"
-#include "support/temp_hub.h"
+#include "support/page_harness.h"
 
 namespace {
 
 using namespace qb;
 
 // A hub whose matrix files the builder has written.
-struct MatrixHub {
+struct MatrixHub : test::PageHarness {
     explicit MatrixHub(int rows) {
         hub.Write("cfg/Profiles.xml", test::ProfilesXml(rows - 1));
         for (const char* folder : {"Communication/Talk", "TheVellum/Arcade"})
             std::filesystem::create_directories(hub.Settings() / folder);
         store::BuildRun run{files, rows - 2};
         pages::BuildPairMatrix(pages::TalkMatrix(), run);
-        pages::RegisterAllPages(registry);
         container.LoadProfiles();
     }
     // Opens the page, flips its first cell, saves and closes.
     void OpenFlipSave(const std::string& key) {
         shell::Page* page = container.Open(key);
-        static_cast<shell::Toolbar*>(page->Find("tlbListview"))->UserClick("EDIT");
-        static_cast<shell::Toolbar*>(page->Find("tlbFormToolbar"))->UserClick("SAVE");
+        Click(*page, "tlbListview", "EDIT");
+        Click(*page, "tlbFormToolbar", "SAVE");
         container.Close(*page);
     }
-    test::TempHub hub;
-    store::TableFiles files{hub.ProgramFolder()};
-    std::ostringstream transcript;
-    shell::ScriptedHost host{transcript};
-    shell::PageRegistry registry;
-    shell::Container container{files, host, registry};
 };
 
 // Opens, flips and saves a page `state.range(0)` profiles wide, reading through the index or

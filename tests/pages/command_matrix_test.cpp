@@ -4,14 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <sstream>
 
 #include "pages/matrix/permissions.h"
-#include "pages/pages.h"
-#include "shell/container.h"
-#include "shell/scripted_host.h"
 #include "store/fatal_error.h"
-#include "support/temp_hub.h"
+#include "support/page_harness.h"
 
 namespace qb::pages {
 namespace {
@@ -60,23 +56,14 @@ TEST(PermissionCollection, TheProfileNumberIsSixteenBitsSetAndReadAsText) {
     EXPECT_EQ(object.ProfileKey(), "32767");
 }
 
-class ArcadePage : public ::testing::Test {
+class ArcadePage : public ::testing::Test, protected test::PageHarness {
   protected:
-    ArcadePage() {
-        pages::RegisterAllPages(registry);
-        std::filesystem::create_directories(hub.Settings() / "TheVellum" / "Arcade");
-    }
+    ArcadePage() { std::filesystem::create_directories(hub.Settings() / "TheVellum" / "Arcade"); }
     shell::Page* Open(const char* profilesXml) {
         hub.Write("cfg/Profiles.xml", profilesXml);
         container.LoadProfiles();
         return container.OpenFunctionPage("Arcade~Permissions");
     }
-    test::TempHub hub;
-    store::TableFiles files{hub.ProgramFolder()};
-    std::ostringstream transcript;
-    shell::ScriptedHost host{transcript};
-    shell::PageRegistry registry;
-    shell::Container container{files, host, registry};
 };
 
 TEST_F(ArcadePage, ReadsTheBuildersFormAndWritesItsOwn) {
@@ -88,9 +75,8 @@ TEST_F(ArcadePage, ReadsTheBuildersFormAndWritesItsOwn) {
     const auto* list = static_cast<const shell::ListControl*>(page->Find("lvwPermissions"));
     ASSERT_EQ(list->Count(), 10);
     EXPECT_EQ(list->Row(2).cells, (std::vector<std::string>{"Master", "Yes"}));
-    auto* buttons = static_cast<shell::Toolbar*>(page->Find("tlbListview"));
-    ASSERT_TRUE(buttons->UserClick("EDIT") && buttons->UserClick("EDIT"));
-    ASSERT_TRUE(static_cast<shell::Toolbar*>(page->Find("tlbFormToolbar"))->UserClick("SAVE"));
+    ASSERT_TRUE(Click(*page, "tlbListview", "EDIT") && Click(*page, "tlbListview", "EDIT"));
+    ASSERT_TRUE(Click(*page, "tlbFormToolbar", "SAVE"));
     // The closing lines have always been one too many for Lua; the readers take them.
     EXPECT_EQ(hub.ReadSetting("TheVellum/Arcade/ArcadeEnableClear.tbl"),
               Crlf({"tArcadeEnableClear = {", "\t\t[-1] = 0,", "\t\t[0] = 1,", "\t},", "}"}));

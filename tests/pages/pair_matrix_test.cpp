@@ -4,24 +4,19 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <sstream>
 
 #include "pages/communication/communication.h"
-#include "pages/pages.h"
-#include "shell/container.h"
-#include "shell/scripted_host.h"
 #include "store/table_text.h"
-#include "support/temp_hub.h"
+#include "support/page_harness.h"
 
 namespace qb::pages {
 namespace {
 
 using test::Crlf;
 
-class PairMatrices : public ::testing::Test {
+class PairMatrices : public ::testing::Test, protected test::PageHarness {
   protected:
     PairMatrices() {
-        pages::RegisterAllPages(registry);
         for (const char* folder : {"Communication/Talk", "Communication/Mute",
                                    "Communication/MassMessage", "Security/Flood"}) {
             std::filesystem::create_directories(hub.Settings() / folder);
@@ -59,17 +54,10 @@ class PairMatrices : public ::testing::Test {
 
     // SAVE is enabled by a change only: a cell flipped and flipped back.
     void SaveUnchanged(shell::Page& page) {
-        auto* buttons = static_cast<shell::Toolbar*>(page.Find("tlbListview"));
-        ASSERT_TRUE(buttons->UserClick("EDIT"));
-        ASSERT_TRUE(buttons->UserClick("EDIT"));
-        ASSERT_TRUE(static_cast<shell::Toolbar*>(page.Find("tlbFormToolbar"))->UserClick("SAVE"));
+        ASSERT_TRUE(Click(page, "tlbListview", "EDIT"));
+        ASSERT_TRUE(Click(page, "tlbListview", "EDIT"));
+        ASSERT_TRUE(Click(page, "tlbFormToolbar", "SAVE"));
     }
-
-    test::TempHub hub;
-    store::TableFiles files{hub.ProgramFolder()};
-    std::ostringstream transcript;
-    shell::ScriptedHost host{transcript};
-    shell::PageRegistry registry;
 };
 
 TEST_F(PairMatrices, ARebuildCarriesEachCellByItsTwoNumbersAndDropsLostNumbers) {
@@ -137,7 +125,6 @@ TEST_F(PairMatrices, TheIndexAndTheScannerBuildAHandEditedFileAlike) {
 
 TEST_F(PairMatrices, AFreshTalkFileShowsNoForTheUnregisteredUntilTheFirstSaveWritesThem) {
     Profiles({"Master"});
-    shell::Container container(files, host, registry);
     container.LoadProfiles();
     EXPECT_EQ(Build(TalkMatrix(), 0), Crlf({"tTalk = {", "\t[-1] = {", "\t\t[0] = 0,", "\t},",
                                             "\t[0] = {", "\t\t[0] = 0,", "\t},", "}"}));
@@ -178,7 +165,6 @@ TEST_F(PairMatrices, CellsPastLineFiveThousandReadNoAndARebuildResetsThem) {
 }
 
 TEST_F(PairMatrices, AHubOfUnregisteredAloneHasOneRowAndOneGroup) {
-    shell::Container container(files, host, registry);
     container.LoadProfiles();
     shell::Page* page = container.OpenFunctionPage("Security~Flooder");
     ASSERT_NE(page, nullptr);
@@ -190,7 +176,6 @@ TEST_F(PairMatrices, AHubOfUnregisteredAloneHasOneRowAndOneGroup) {
 
 TEST_F(PairMatrices, TheMassMessageWordsReadAlikeFromBothWritersAndThePageDropsOperator) {
     Profiles({"Master"});
-    shell::Container container(files, host, registry);
     container.LoadProfiles();
     hub.WriteSetting("Communication/MassMessage/MassMessageSettings.tbl",
                      Crlf({"tMassMessageSettings = {",
