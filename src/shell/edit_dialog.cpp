@@ -222,7 +222,7 @@ bool EditDialog::UserSetField(int index, const std::string& value) {
     }
     if (index == 0) {
         okEnabled_ = !field.value.empty();
-        addEnabled_ = okEnabled_ && !noAdd_;
+        addEnabled_ = okEnabled_ && !noAdd_ && request_.addButton;
     }
     return true;
 }

@@ -57,6 +57,9 @@ struct DialogRequest {
     std::string mode;  // "E" to edit a row, "A" to add rows
     int required = 0;
     bool editableCombos = false;  // combos take typed text, not only their items
+    // The Add button, where the page switches it off for this use (an edit of one row): off, it
+    // can't be clicked at all.
+    bool addButton = true;
 };
 
 // The dialog's outcome: mode "1" after OK, "A" after Add, empty after Cancel or the close box.

@@ -3,6 +3,7 @@
 // its layouts: Column{Item(a), Row{Item(b), Item(c)}, Stretch()}. The model needs no coordinates.
 
 #include <initializer_list>
+#include <string>
 #include <vector>
 
 #include "shell/controls.h"
@@ -15,6 +16,7 @@ struct Layout {
     std::vector<Layout> items;
     const Control* control = nullptr;
     int weight = 0;  // a share of the room its row or column has to spare; 0 for the common share
+    std::string name{};  // a control named in a page's declaration, until the page finds it
 };
 
 inline Layout Column(std::initializer_list<Layout> items) {
@@ -25,6 +27,10 @@ inline Layout Row(std::initializer_list<Layout> items) {
 }
 inline Layout Item(const Control& control) {
     return {Layout::Type::Item, {}, &control};
+}
+// A control by its name, as a page's declaration places it.
+inline Layout Item(std::string name) {
+    return {Layout::Type::Item, {}, nullptr, 0, std::move(name)};
 }
 inline Layout Stretch() {
     return {Layout::Type::Stretch, {}, nullptr};

@@ -6,32 +6,206 @@
 
 namespace qb::shell {
 
-Page::Page(PageContext& context, std::string key, std::string caption, PageSize size)
+Page::Page(PageContext& context, const PageDecl& decl)
     : context_(context),
       fraFrame(Add<Frame>("fraFrame")),
       tlbFormToolbar(Add<Toolbar>("tlbFormToolbar")),
       stsStatusBar(Add<StatusBar>("stsStatusBar")),
-      key_(std::move(key)),
-      caption_(std::move(caption)),
-      size_(size),
-      minimum_(size) {
+      key_(decl.key),
+      caption_(decl.caption),
+      size_(decl.size),
+      minimum_(decl.minimum.value_or(decl.size)),
+      noRestore_(decl.noRestore),
+      discardClears_(decl.discardClears),
+      files_(decl.files) {
     tlbFormToolbar.onButtonClick = [this](const std::string& button) { FormToolbarClick(button); };
+    MakeDeclared(decl);
 }
 
 Page::~Page() = default;
 
+void Page::MakeDeclared(const PageDecl& decl) {
+    const auto markDirty = [this] { MarkDirty(); };
+    for (const ControlDecl& control : decl.controls) {
+        Control* textBox = nullptr;
+        if (!control.textBox.empty()) {
+            // The up-down's value stands in a text box the user can't type into.
+            auto& box = Add<TextBox>(control.textBox);
+            box.SetReadOnly(true);
+            textBox = &box;
+        }
+        Control* made = nullptr;
+        if (control.kind == ControlKind::UpDown) {
+            const store::FileSchema* file = control.file ? control.file : files_.front();
+            const store::Field* field = store::FindField(*file, control.key);
+            made = &Add<UpDown>(control.name, field->range->min, field->range->max,
+                                field->range->step);
+        } else {
+            auto owned = MakeControl(control);
+            made = owned.get();
+            controls_.push_back(std::move(owned));
+        }
+        if (control.kind == ControlKind::Toolbar && !control.setups.empty()) {
+            toolbarSetups_.push_back({static_cast<Toolbar*>(made), control.setups});
+        }
+        if (control.kind == ControlKind::List && !control.columns.empty()) {
+            listColumns_.push_back({static_cast<ListControl*>(made), control.columns});
+        }
+        if (control.key.empty() && !control.marksOnly) continue;
+        const store::FileSchema* file =
+            control.key.empty() ? nullptr : (control.file ? control.file : files_.front());
+        if (auto binding = Bind(control, file, *made, textBox, markDirty)) {
+            bindings_.push_back(std::move(binding));
+        }
+    }
+    for (const RowEditorDecl& editor : decl.editors) {
+        auto& list = Get<ListControl>(editor.list);
+        auto& toolbar = Get<Toolbar>(editor.toolbar);
+        auto& made = *editors_.emplace_back(std::make_unique<RowEditor>(
+            editor, list, toolbar, context_.host, context_.files, markDirty));
+        toolbar.onButtonClick = [&made](const std::string& key) {
+            if (key == "NEW") made.Add();
+            if (key == "DELETE") made.Delete();
+            if (key == "EDIT") made.Edit();
+        };
+        list.onDoubleClick = [&made](int) { made.Edit(); };
+        if (!editor.popup.empty()) {
+            list.onRightClick = [this, popup = editor.popup](int) { ShowPopupMenu(popup); };
+        }
+        if (editor.methods.empty()) continue;
+        if (editor.add) PublishMenuMethod(editor.methods + "AddClick", [&made] { made.Add(); });
+        if (editor.confirmDelete) {
+            PublishMenuMethod(editor.methods + "DeleteClick", [&made] { made.Delete(); });
+        }
+        if (editor.edit || editor.customEdit) {
+            PublishMenuMethod(editor.methods + "EditClick", [&made] { made.Edit(); });
+        }
+    }
+    if (decl.layout) {
+        SetBody(*decl.layout);
+    } else {
+        // One below the other, in the order declared; a page without a list keeps its controls
+        // at the top.
+        Layout body = Column({});
+        bool fills = false;
+        for (const auto& control : controls_) {
+            const ControlKind kind = control->Kind();
+            if (control.get() == &fraFrame || control.get() == &tlbFormToolbar ||
+                control.get() == &stsStatusBar || kind == ControlKind::Tooltip) {
+                continue;
+            }
+            fills = fills || kind == ControlKind::List;
+            body.items.push_back(Item(*control));
+        }
+        if (!fills) body.items.push_back(Stretch());
+        body_ = std::move(body);
+    }
+}
+
+Control& Page::Declared(const std::string& name) const {
+    Control* control = Find(name);
+    if (control == nullptr) throw std::logic_error(key_ + " has no control " + name);
+    return *control;
+}
+
+RowEditor& Page::Editor(const std::string& list) {
+    for (const auto& editor : editors_) {
+        if (editor->Decl().list == list) return *editor;
+    }
+    throw std::logic_error(key_ + " has no row editor of " + list);
+}
+
+void Page::SetBody(Layout body) {
+    ResolveNames(body);
+    body_ = std::move(body);
+}
+
+void Page::ResolveNames(Layout& layout) const {
+    if (layout.type == Layout::Type::Item && layout.control == nullptr) {
+        layout.control = &Declared(layout.name);
+    }
+    for (Layout& item : layout.items)
+        ResolveNames(item);
+}
+
 void Page::Load() {
     SetupStatusBar(stsStatusBar, size_.width);
     SetupPageToolbar(tlbFormToolbar, noRestore_);
+    for (auto& [toolbar, setups] : toolbarSetups_) {
+        for (auto* setup : setups)
+            setup(*toolbar);
+    }
+    for (auto& [list, columns] : listColumns_) {
+        for (const ListColumn& column : columns)
+            list->AddColumn(column.key, column.text, column.width);
+    }
     Setup();
     Reload();
     MarkClean();
+}
+
+void Page::LoadSettings() {
+    for (const auto& binding : bindings_)
+        binding->Load(context_.files, context_.profiles);
+}
+
+void Page::RestoreDefaults() {
+    for (const auto& binding : bindings_)
+        binding->Restore(context_.profiles);
+}
+
+std::string Page::BoundText(const store::FileSchema& file) const {
+    // A list whose rows are the file's rows shapes the file first.
+    std::vector<const Binding*> bound;
+    store::FileSchema shaped = file;
+    for (const auto& binding : bindings_) {
+        if (&binding->File() != &file) continue;
+        bound.push_back(binding.get());
+        binding->Shape(shaped);
+    }
+    const auto bindingOf = [&](const store::Field& field, int row) -> const Binding* {
+        for (const Binding* binding : bound) {
+            const std::string& key = binding->Key();
+            if (key == field.key || key == file.table) return binding;
+            if (field.kind == store::FieldKind::NamedFlags && row >= 0 &&
+                static_cast<size_t>(row) < field.rows.size() &&
+                key == field.key + "." + field.rows[static_cast<size_t>(row)]) {
+                return binding;
+            }
+        }
+        return nullptr;
+    };
+    const auto isBound = [&](const store::Field& field) {
+        if (field.kind != store::FieldKind::NamedFlags) return bindingOf(field, 0) != nullptr;
+        for (size_t row = 0; row < field.rows.size(); ++row) {
+            if (bindingOf(field, static_cast<int>(row)) != nullptr) return true;
+        }
+        return false;
+    };
+    return store::RenderTable(
+        shaped, context_.profiles.LastNumber(),
+        [&](const store::Field& field, int row) {
+            const Binding* binding = bindingOf(field, row);
+            return binding != nullptr ? binding->ValueOf(field, row) : field.defaultValue;
+        },
+        store::Writer::Page, isBound,
+        [&](const store::Field& field) {
+            const Binding* binding = bindingOf(field, 0);
+            return binding != nullptr ? binding->Rows() : std::vector<store::ListEntry>{};
+        });
+}
+
+void Page::SaveSettings() {
+    for (const store::FileSchema* file : files_)
+        context_.files.WriteTextFile(file->file, BoundText(*file), file->inAppFolder);
 }
 
 void Page::Reload() {
     // A page asks its files once per key; the scope reads each file once for the whole load.
     store::TableFiles::ReadScope scope(context_.files);
     LoadSettings();
+    for (const auto& editor : editors_)
+        editor->Loaded();
 }
 
 bool Page::QueryUnload() {

@@ -11,9 +11,12 @@
 #include <string>
 #include <vector>
 
+#include "shell/bindings.h"
 #include "shell/controls.h"
 #include "shell/host.h"
 #include "shell/layout.h"
+#include "shell/page_decl.h"
+#include "shell/row_editor.h"
 #include "store/hub_profiles.h"
 #include "store/table_files.h"
 
@@ -26,17 +29,13 @@ struct PageContext {
     Host& host;
 };
 
-struct PageSize {
-    int width;   // twips
-    int height;  // twips
-};
-
 class Page {
     // First, so that it exists before the frame's controls are added to it.
     std::vector<std::unique_ptr<Control>> controls_;
 
   public:
-    Page(PageContext& context, std::string key, std::string caption, PageSize size);
+    // A page of the declaration: its controls made, bound and laid out, its row editors wired.
+    Page(PageContext& context, const PageDecl& decl);
     virtual ~Page();
     Page(const Page&) = delete;
     Page& operator=(const Page&) = delete;
@@ -80,12 +79,14 @@ class Page {
     std::function<void(const std::string& menu)> onPopupMenu;
 
   protected:
-    // The page's own part of Form_Load, between the frame's set-up and LoadSettings: columns,
-    // list toolbars, combo items.
+    // The page's own part of Form_Load, between the frame's set-up (with the declared toolbars'
+    // buttons and lists' columns) and LoadSettings.
     virtual void Setup() {}
-    virtual void LoadSettings() = 0;
-    virtual void RestoreDefaults() = 0;
-    virtual void SaveSettings() = 0;
+    // By default the bound controls load, restore and save; a page with more to do overrides
+    // and calls these.
+    virtual void LoadSettings();
+    virtual void RestoreDefaults();
+    virtual void SaveSettings();
     // A click on tlbFormToolbar. The frame handles SAVE, DISCARD and RESTORE.
     virtual void FormToolbarClick(const std::string& key);
 
@@ -96,9 +97,18 @@ class Page {
         controls_.push_back(std::move(control));
         return ref;
     }
+    // A declared control by its name.
+    template <class C>
+    C& Get(const std::string& name) const {
+        return static_cast<C&>(Declared(name));
+    }
+    // The row editor of a declared list.
+    RowEditor& Editor(const std::string& list);
+    // The file a bound control writes, as SAVE renders it from the bindings.
+    std::string BoundText(const store::FileSchema& file) const;
     // LoadSettings with each file read once.
     void Reload();
-    void SetBody(Layout body) { body_ = std::move(body); }
+    void SetBody(Layout body);
     void SetMinimumSize(PageSize minimum) { minimum_ = minimum; }
     void PublishMenuMethod(std::string method, std::function<void()> call);
     void ShowPopupMenu(const std::string& menu) {
@@ -125,6 +135,10 @@ class Page {
     bool bSaveRequired = false;
 
   private:
+    Control& Declared(const std::string& name) const;
+    void MakeDeclared(const PageDecl& decl);
+    void ResolveNames(Layout& layout) const;
+
     std::string key_;
     std::string caption_;
     std::string tag_;
@@ -135,6 +149,11 @@ class Page {
     Layout body_;
     std::map<std::string, std::function<void()>> menuMethods_;
     std::set<std::string> hiddenEntries_;
+    std::vector<const store::FileSchema*> files_;
+    std::vector<std::unique_ptr<Binding>> bindings_;
+    std::vector<std::unique_ptr<RowEditor>> editors_;
+    std::vector<std::pair<Toolbar*, std::vector<void (*)(Toolbar&)>>> toolbarSetups_;
+    std::vector<std::pair<ListControl*, std::vector<ListColumn>>> listColumns_;
 };
 
 }  // namespace qb::shell

@@ -10,12 +10,17 @@ void AddProfileColumn(ListControl& list, std::string text) {
 
 void LoadProfileChecks(ListControl& list, const PageContext& context, std::string_view file,
                        std::string_view subTable) {
+    LoadProfileChecks(list, context.files, context.profiles, file, subTable);
+}
+
+void LoadProfileChecks(ListControl& list, store::TableFiles& files,
+                       const store::ProfileList& profiles, std::string_view file,
+                       std::string_view subTable) {
     list.Clear();
-    const store::ProfileList& profiles = context.profiles;
     for (int number = -1; number <= profiles.LastNumber(); ++number) {
         list.Add(number + 2, std::to_string(number) + "ID", profiles.Text(number + 2));
         const std::string value =
-            context.files.ReadTableValue(file, std::to_string(number), subTable, false);
+            files.ReadTableValue(file, std::to_string(number), subTable, false);
         list.SetChecked(number + 2, store::IsNumericallyOne(value.empty() ? "0" : value));
     }
 }

@@ -17,6 +17,9 @@ void AddProfileColumn(ListControl& list, std::string text);
 
 // A row per profile, key "<number>ID", text the profile's name, ticked exactly when the file's
 // value for the number is numerically 1. A missing file or key reads as 0.
+void LoadProfileChecks(ListControl& list, store::TableFiles& files,
+                       const store::ProfileList& profiles, std::string_view file,
+                       std::string_view subTable);
 void LoadProfileChecks(ListControl& list, const PageContext& context, std::string_view file,
                        std::string_view subTable);
 

@@ -117,6 +117,11 @@ DialogResult ScriptedHost::ShowDialog(const DialogRequest& request) {
     }
     DialogAnswer answer = std::move(dialogs_.front());
     dialogs_.pop_front();
+    // A button the page switched off isn't there to be clicked, whatever the fields hold.
+    if (answer.button == "Add" && !request.addButton) {
+        out_ << shown << " -> Add refused\n";
+        throw UnansweredPrompt("the dialog's Add button is switched off: " + shown);
+    }
     // The answer is played on the dialog as the user would: each given field typed in, then the
     // button clicked. A click the dialog ignores leaves it open, which no script can go on from.
     EditDialog dialog(request);

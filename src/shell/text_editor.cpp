@@ -6,15 +6,17 @@ namespace {
 class TextEditorPage : public Page {
   public:
     TextEditorPage(PageContext& context, const std::string& file, const std::string& mode)
-        : Page(context, kTextEditorKey, "Text Editor ~ " + file, {9000, 6075}),
+        : Page(context, {.key = kTextEditorKey,
+                         .caption = "Text Editor ~ " + file,
+                         .size = {9000, 6075},
+                         .noRestore = true,
+                         .discardClears = true}),
           txtPath(Add<TextBox>("txtPath")),
           txtTextBox(Add<TextBox>("txtTextBox", true)),
           newFile_(mode == "N") {
         txtPath.SetText(file);
         txtPath.SetVisible(false);
         txtTextBox.onChange = [this] { MarkDirty(); };
-        SetNoRestore(true);
-        SetDiscardClears(true);
         SetBody(Column({Item(txtTextBox)}));
     }
 

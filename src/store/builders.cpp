@@ -5,10 +5,27 @@
 namespace qb::store {
 namespace {
 
-std::string Write(const FileSchema& schema, BuildRun& run, const FieldValue& valueOf) {
-    return RenderTable(schema, run.lastProfile, valueOf, Writer::Builder, [&](const Field& field) {
-        return Passes(field.editions, run.edition, run.version);
-    });
+std::string Write(const FileSchema& schema, BuildRun& run, const FieldValue& valueOf,
+                  const FieldRows& rowsOf = {}) {
+    return RenderTable(
+        schema, run.lastProfile, valueOf, Writer::Builder,
+        [&](const Field& field) { return Passes(field.editions, run.edition, run.version); },
+        rowsOf);
+}
+
+// The rows a list keeps through a rebuild: those the list's reader finds in the old file.
+std::vector<ListEntry> OldRows(TableFiles& files, const std::string& path, const Field& field,
+                               const std::string& table) {
+    const bool keyed = field.rowForm != RowForm::Bare;
+    std::vector<ListEntry> rows;
+    for (TableRow& row : files.LoadTableRows(path, keyed ? "=" : "", table, false, false)) {
+        if (keyed) {
+            rows.push_back({std::move(row.text), std::move(row.value)});
+        } else {
+            rows.push_back({{}, std::move(row.text)});
+        }
+    }
+    return rows;
 }
 
 // Where the builder finds a field's old value: the key and the table ReadTableValue is asked for.
@@ -22,6 +39,7 @@ std::string OldKey(const Field& field, int row) {
         case FieldKind::Flag:
         case FieldKind::Number:
         case FieldKind::String:
+        case FieldKind::Rows:
             break;
     }
     return field.key;
@@ -57,16 +75,40 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
             const TableFiles::ReadScope scope(run.files);
             // An emptied value and a missing key are one: both take the default. Rows are
             // found by profile number only, so a row keeps its value with its number.
-            text = Write(schema, run, [&](const Field& field, int row) {
-                if (field.resetByRebuild) return field.defaultValue;
-                std::string value =
-                    run.files.ReadTableValue(path, OldKey(field, row), SubTableOf(schema, field));
-                return value.empty() ? field.defaultValue : value;
-            });
+            text = Write(
+                schema, run,
+                [&](const Field& field, int row) {
+                    if (field.resetByRebuild) return field.defaultValue;
+                    std::string value = run.files.ReadTableValue(path, OldKey(field, row),
+                                                                 SubTableOf(schema, field));
+                    return value.empty() ? field.defaultValue : value;
+                },
+                [&](const Field& field) {
+                    return field.resetByRebuild ? std::vector<ListEntry>{}
+                                                : OldRows(run.files, path, field, field.key);
+                });
             break;
         }
     }
     run.files.WriteTextFile(schema.file, text, schema.inAppFolder);
+}
+
+std::string FolderOf(std::string_view file) {
+    const size_t slash = file.rfind('\\');
+    return std::string(slash == std::string_view::npos ? std::string_view()
+                                                       : file.substr(0, slash));
+}
+
+BuildStep::BuildStep(const FileSchema& schema)
+    : folder(FolderOf(schema.file)),
+      builder([&schema](BuildRun& run) { BuildFile(schema, run); }) {}
+
+BuildStep::BuildStep(std::string in, FileBuilder build)
+    : folder(std::move(in)), builder(std::move(build)) {}
+
+void BuilderRegistry::Add(const std::vector<BuildStep>& steps) {
+    for (const BuildStep& step : steps)
+        Add(step.folder, step.builder);
 }
 
 void BuilderRegistry::Add(std::string_view folder, const FileSchema& schema) {

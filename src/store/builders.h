@@ -37,8 +37,23 @@ void BuildFile(const FileSchema& schema, BuildRun& run);
 
 using FileBuilder = std::function<void(BuildRun& run)>;
 
+// The folder of a file, "Security\CommandSpy" of "Security\CommandSpy\X.tbl".
+std::string FolderOf(std::string_view file);
+
+// One step of a function group's build: a file described by its schema, built in its own
+// folder, or a builder of its own against a folder.
+struct BuildStep {
+    BuildStep(const FileSchema& schema);  // NOLINT(google-explicit-constructor): tables list them
+    BuildStep(std::string in, FileBuilder build);
+    std::string folder;
+    FileBuilder builder;
+};
+
 class BuilderRegistry {
   public:
+    // A group's files, in the order a rebuild writes them within each folder. Schemas and
+    // builders must outlive the registry.
+    void Add(const std::vector<BuildStep>& steps);
     // Adds the builder of a file to a folder of the settings tree. The builders of one folder run
     // in the order they were added. The schema must outlive the registry.
     void Add(std::string_view folder, const FileSchema& schema);

@@ -29,10 +29,26 @@ std::vector<const Field*> InOrder(const FileSchema& schema, const WriterForm& fo
     return fields;
 }
 
+// One row of a list at `depth`.
+void ListRow(TableText& text, const Field& field, int depth, int number, const ListEntry& entry) {
+    const std::string value = field.quotedRows ? "\"" + entry.value + "\"" : entry.value;
+    switch (field.rowForm) {
+        case RowForm::Bare:
+            text.Line(depth, value + ",");
+            break;
+        case RowForm::Named:
+            text.Line(depth, "[\"" + entry.key + "\"] = " + value + ",");
+            break;
+        case RowForm::Numbered:
+            text.Row(depth, number, value);
+            break;
+    }
+}
+
 }  // namespace
 
 std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldValue& valueOf,
-                        Writer writer, const FieldFilter& keep) {
+                        Writer writer, const FieldFilter& keep, const FieldRows& rowsOf) {
     const WriterForm& form = writer == Writer::Builder ? schema.builderForm : schema.pageForm;
     TableText text(schema.table + " = {" + form.headerTail);
     for (const Field* field : InOrder(schema, form)) {
@@ -67,9 +83,37 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
                 }
                 text.Close(line.depth);
                 break;
+            case FieldKind::Rows: {
+                // The rows of the file's own table stand at its depth, with nothing around them.
+                const bool own = field->key == schema.table;
+                if (!own) text.Open(line.depth, field->key);
+                const std::vector<ListEntry> rows =
+                    rowsOf ? rowsOf(*field) : std::vector<ListEntry>{};
+                for (size_t row = 0; row < rows.size(); ++row) {
+                    ListRow(text, *field, own ? line.depth : line.rowDepth,
+                            static_cast<int>(row) + 1, rows[row]);
+                }
+                if (!own) text.Close(line.depth);
+                break;
+            }
         }
     }
     return text.End();
+}
+
+const Field* FindField(const FileSchema& schema, std::string_view key) {
+    const size_t dot = key.find('.');
+    for (const Field& field : schema.fields) {
+        if (dot == std::string_view::npos) {
+            if (field.key == key) return &field;
+            continue;
+        }
+        if (field.kind != FieldKind::NamedFlags || field.key != key.substr(0, dot)) continue;
+        for (const std::string& row : field.rows) {
+            if (row == key.substr(dot + 1)) return &field;
+        }
+    }
+    return nullptr;
 }
 
 std::string DefaultOf(const FileSchema& schema, std::string_view key) {

@@ -21,6 +21,36 @@ enum class FieldKind {
     String,         // sKey = "text",
     ProfileChecks,  // tKey = { [-1] = 0, [0] = 1, ... }, one row per profile number
     NamedFlags,     // tKey = { bFirst = 0, bSecond = 1, ... }, one row per name of `rows`
+    Rows,           // a list the user keeps: the rows of a sub-table, or of the file's own table
+};
+
+// How the rows of a list are written. Only the writer knows these forms: the readers take any
+// row by its first "=" or as it stands.
+enum class RowForm {
+    Bare,      // "text",
+    Named,     // ["key"] = "value",
+    Numbered,  // [1] = "value", numbered from 1 at every write
+};
+
+// A value the user picks from a combo by name, which the file holds in its own form ("TempBan"
+// is stored as "T"); where the two are one, `shown` and `stored` are equal.
+struct Choice {
+    std::string shown;
+    std::string stored;
+};
+
+// The bounds of a number the user sets with an up-down. A file's value is never held to them:
+// it shows and saves as it stands until the user turns the up-down.
+struct Range {
+    int min;
+    int max;
+    int step = 1;
+};
+
+// One row of a list as it is written: the key of a named row, and the value.
+struct ListEntry {
+    std::string key;
+    std::string value;
 };
 
 struct Field {
@@ -32,6 +62,12 @@ struct Field {
     std::vector<std::string> rows{};  // the row names of named flags, in file order
     // The builder writes the default whatever the file held: a rebuild clears the key.
     bool resetByRebuild = false;
+    std::optional<Range> range{};   // a number set through an up-down
+    std::vector<Choice> choices{};  // a value picked from a combo
+    // The rows of a list: their form, and whether a value is written in quotes.
+    RowForm rowForm = RowForm::Bare;
+    bool quotedRows = true;
+    std::vector<ListEntry> defaultRows{};  // the rows RESTORE puts in, where it refills a list
 };
 
 // What a rebuild does to a file that exists already.
@@ -53,9 +89,9 @@ struct LineForm {
 
 // A writer's own layout of the file; the default is the common form of every field.
 struct WriterForm {
-    std::vector<std::string> order;         // the keys in this writer's order; empty: the fields'
-    std::string headerTail;                 // text behind the header's brace
-    std::map<std::string, LineForm> lines;  // by key, the lines laid out otherwise
+    std::vector<std::string> order{};         // the keys in this writer's order; empty: the fields'
+    std::string headerTail{};                 // text behind the header's brace
+    std::map<std::string, LineForm> lines{};  // by key, the lines laid out otherwise
 };
 
 struct FileSchema {
@@ -74,9 +110,17 @@ using FieldValue = std::function<std::string(const Field& field, int row)>;
 // Whether a field is written at all.
 using FieldFilter = std::function<bool(const Field& field)>;
 
+// The rows of a list field, in the order they are written.
+using FieldRows = std::function<std::vector<ListEntry>(const Field& field)>;
+
 // The whole text of the file as `writer` lays it out, for profile numbers -1 to `lastProfile`.
+// A list field writes the rows `rowsOf` gives, or none without it.
 std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldValue& valueOf,
-                        Writer writer = Writer::Page, const FieldFilter& keep = {});
+                        Writer writer = Writer::Page, const FieldFilter& keep = {},
+                        const FieldRows& rowsOf = {});
+
+// The field of a key, or null. A row of a named flag sub-table is found as "tSub.bRow".
+const Field* FindField(const FileSchema& schema, std::string_view key);
 
 // The default of a key, or empty for a key the file doesn't have: RestoreDefaults and the
 // builders both ask here.

@@ -16,10 +16,10 @@ using test::Crlf;
 
 TEST(ActionCodes, EachNameHasItsOwnLetterBothWays) {
     std::set<std::string_view> codes;
-    for (const ActionCode& action : ActionCodes()) {
-        EXPECT_TRUE(codes.insert(action.code).second) << action.code;
-        EXPECT_EQ(ActionCodeOf(action.name), action.code);
-        EXPECT_EQ(ActionName(action.code), action.name);
+    for (const store::Choice& action : ActionChoices()) {
+        EXPECT_TRUE(codes.insert(action.stored).second) << action.stored;
+        EXPECT_EQ(ActionCodeOf(action.shown), action.stored);
+        EXPECT_EQ(ActionName(action.stored), action.shown);
     }
     EXPECT_EQ(ActionName("T"), "TempBan");
     EXPECT_EQ(ActionCodeOf("Notify Ops"), "N");

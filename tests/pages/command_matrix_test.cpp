@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "pages/matrix/permissions.h"
+#include "families/matrix/permission_collection.h"
 #include "store/fatal_error.h"
 #include "support/page_harness.h"
 

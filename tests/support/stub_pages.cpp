@@ -9,8 +9,10 @@ namespace {
 class StubPage : public shell::Page {
   public:
     StubPage(shell::PageContext& context, const StubPageDesc& desc, std::vector<std::string>& calls)
-        : Page(context, desc.key,
-               desc.caption.empty() ? shell::CaptionOfKey(desc.key) : desc.caption, {3400, 6075}),
+        : Page(context,
+               {.key = desc.key,
+                .caption = desc.caption.empty() ? shell::CaptionOfKey(desc.key) : desc.caption,
+                .size = {3400, 6075}}),
           lvwRows(Add<shell::ListControl>("lvwRows")) {
         for (const auto& method : desc.methods) {
             PublishMenuMethod(

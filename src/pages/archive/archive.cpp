@@ -3,7 +3,7 @@
 namespace qb::pages {
 
 void RegisterArchivePages(shell::PageRegistry& registry) {
-    RegisterArchivePermissionPages(registry);
+    registry.Register({CommandMatrixPageOf(ArcadePermissions())});
 }
 
 }  // namespace qb::pages

@@ -3,7 +3,7 @@
 // Hyperlink) of one design. The family is written but switched off: its nodes and folders come
 // with major version 6, and until then its pages open only by their keys.
 
-#include "pages/matrix/command_matrix.h"
+#include "families/matrix/command_matrix.h"
 #include "shell/page_registry.h"
 
 namespace qb::pages {
@@ -11,7 +11,6 @@ namespace qb::pages {
 void RegisterArchivePages(shell::PageRegistry& registry);
 
 // Which profiles may use each command of an archive (permissions.cpp).
-void RegisterArchivePermissionPages(shell::PageRegistry& registry);
 const CommandMatrix& ArcadePermissions();
 
 }  // namespace qb::pages

@@ -15,8 +15,4 @@ const CommandMatrix& ArcadePermissions() {
     return matrix;
 }
 
-void RegisterArchivePermissionPages(shell::PageRegistry& registry) {
-    RegisterCommandMatrixPage(registry, ArcadePermissions());
-}
-
 }  // namespace qb::pages

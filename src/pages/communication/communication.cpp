@@ -3,12 +3,21 @@
 namespace qb::pages {
 
 void RegisterCommunicationPages(shell::PageRegistry& registry, const PageServices& services) {
-    RegisterMatrixPages(registry);
-    if (services.hubLink) RegisterPortalPage(registry, services.hubLink);
+    registry.Register({
+        PairMatrixPageOf(MassMessageMatrix()),
+        PairMatrixPageOf(MuteMatrix()),
+        PairMatrixPageOf(TalkMatrix()),
+    });
+    if (services.hubLink) registry.Register(PortalPage(services.hubLink));
 }
 
+// The communication area's files, in the order a rebuild writes them in each folder.
 void RegisterCommunicationBuilders(store::BuilderRegistry& builders) {
-    RegisterMatrixBuilders(builders);
+    builders.Add({
+        PairMatrixBuild(MassMessageMatrix()),
+        PairMatrixBuild(MuteMatrix()),
+        PairMatrixBuild(TalkMatrix()),
+    });
 }
 
 }  // namespace qb::pages

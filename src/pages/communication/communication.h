@@ -1,7 +1,7 @@
 #pragma once
 // The communication functions: their pages and the descriptions of their files.
 
-#include "pages/matrix/pair_matrix.h"
+#include "families/matrix/pair_matrix.h"
 #include "pages/services.h"
 #include "shell/page_registry.h"
 #include "store/builders.h"
@@ -11,16 +11,15 @@ namespace qb::pages {
 void RegisterCommunicationPages(shell::PageRegistry& registry, const PageServices& services);
 void RegisterCommunicationBuilders(store::BuilderRegistry& builders);
 
-// Talk, Mute and MassMessage, the pair matrices of the communication functions (matrices.cpp).
-void RegisterMatrixPages(shell::PageRegistry& registry);
-void RegisterMatrixBuilders(store::BuilderRegistry& builders);
+// Talk, Mute and MassMessage, the pair matrices of the communication functions (talk.cpp,
+// mute.cpp, mass_message.cpp).
 const PairMatrix& TalkMatrix();
 const PairMatrix& MuteMatrix();
 const PairMatrix& MassMessageMatrix();
 
 // The portal: one bot nick on two hubs, relaying public chat (portal.cpp). Offered only with a
 // hub link.
-void RegisterPortalPage(shell::PageRegistry& registry, const hublink::SessionsFactory& hubLink);
+shell::PageEntry PortalPage(const hublink::SessionsFactory& hubLink);
 inline constexpr const char* kPortalFile = "Communication\\Portal\\PortalSettings.tbl";
 
 }  // namespace qb::pages

@@ -6,17 +6,24 @@
 namespace qb::pages {
 
 void RegisterGeneralPages(shell::PageRegistry& registry) {
-    RegisterSettingsPages(registry);
-    RegisterBotPages(registry);
-    RegisterNewsPages(registry);
-    RegisterSwitchPages(registry);
+    registry.Register({
+        GeneralSettingsPage(),
+        BotsPage(),
+        NewsPage(),
+        SwitchesPage(),
+        RightClicksPage(),
+    });
 }
 
+// The general area's files, in the order a rebuild writes them in each folder: in
+// General\Globals the settings first, then the two reset files.
 void RegisterGeneralBuilders(store::BuilderRegistry& builders) {
-    RegisterBotBuilders(builders);
-    // General\Globals: the settings first, then the two reset files.
-    RegisterSettingsBuilders(builders);
-    RegisterSwitchBuilders(builders);
+    builders.Add({
+        BotSettingsSchema(),
+        GeneralSettingsSchema(),
+        SwitchesSchema(),
+        EnableRightClicksSchema(),
+    });
 }
 
 }  // namespace qb::pages

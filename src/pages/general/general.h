@@ -10,19 +10,16 @@ namespace qb::pages {
 
 // The general functions' pages.
 void RegisterGeneralPages(shell::PageRegistry& registry);
-
 // The general area's builders, folder by folder.
 void RegisterGeneralBuilders(store::BuilderRegistry& builders);
 
 // General\Globals\GeneralSettings.tbl: prefix, border and right click name (settings.cpp).
 const store::FileSchema& GeneralSettingsSchema();
-void RegisterSettingsBuilders(store::BuilderRegistry& builders);
-void RegisterSettingsPages(shell::PageRegistry& registry);
+const shell::PageDecl& GeneralSettingsPage();
 
 // General\Bots\BotSettings.tbl: who is told of bot changes (bots.cpp).
 const store::FileSchema& BotSettingsSchema();
-void RegisterBotBuilders(store::BuilderRegistry& builders);
 // frmGeneralBots: both bot files (Bots.tbl has no builder).
-void RegisterBotPages(shell::PageRegistry& registry);
+shell::PageEntry BotsPage();
 
 }  // namespace qb::pages

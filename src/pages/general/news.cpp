@@ -3,7 +3,6 @@
 #include <charconv>
 #include <optional>
 
-#include "shell/page.h"
 #include "shell/page_frame.h"
 #include "shell/table_lists.h"
 #include "store/fatal_error.h"
@@ -127,53 +126,51 @@ void LoadNews(store::TableFiles& files, shell::ListControl& lvwNews,
 namespace {
 
 using shell::ListControl;
-using shell::Page;
-using shell::PageContext;
-
-constexpr int kPageWidth = 6300;
-constexpr int kPageHeight = 7200;
 
 // frmGeneralNews: the news rows, which can only be read and deleted.
-class NewsPage : public Page {
+class frmGeneralNews : public shell::Page {
   public:
-    explicit NewsPage(PageContext& context)
-        : Page(context, "General~News", "General ~ News", {kPageWidth, kPageHeight}),
-          tlbListview(Add<shell::Toolbar>("tlbListview")),
-          lvwNews(Add<ListControl>("lvwNews")) {
-        lvwNews.SetWidth(kPageWidth - 180 - 2 * 120);
-        lvwNews.onDoubleClick = [this](int) {
-            if (lvwNews.Count() > 0) Edit();
+    static const shell::PageDecl& Decl() {
+        using namespace shell::decl;
+        constexpr int kWidth = shell::FillWidth(6300);
+        constexpr int kColumns = kWidth - 350;
+        static const shell::PageDecl page{
+            .key = "General~News",
+            .caption = "General ~ News",
+            .size = {6300, 7200},
+            .controls = {Toolbar("tlbListview",
+                                 {shell::SetupDeleteToolbar, shell::SetupEditToolbar}),
+                         List("lvwNews", kWidth,
+                              {{"column1", "Date", kColumns / 5},
+                               {"column2", "News Headline", kColumns * 4 / 5},
+                               {"column3", "News Story", 0},
+                               {"column4", "Symbol", 0},
+                               {"column5", "News ID", 0}})},
+            // EDIT edits nothing: it shows the article.
+            .editors = {{.list = "lvwNews",
+                         .toolbar = "tlbListview",
+                         .popup = "mnuUserActions",
+                         .methods = "gMenu",
+                         .confirmDelete =
+                             shell::Prompt{"Do you really want to delete this News Article?",
+                                           "Delete News Article?"},
+                         .customEdit = true}},
+            .noRestore = true,
         };
-        lvwNews.onRightClick = [this](int) { ShowPopupMenu("mnuUserActions"); };
-        tlbListview.onButtonClick = [this](const std::string& key) {
-            if (key == "EDIT") Edit();
-            if (key == "DELETE") Delete();
-        };
-        PublishMenuMethod("gMenuEditClick", [this] { Edit(); });
-        PublishMenuMethod("gMenuDeleteClick", [this] { Delete(); });
-        SetNoRestore(true);
-        SetBody(shell::Column({shell::Item(tlbListview), shell::Item(lvwNews)}));
+        return page;
+    }
+
+    explicit frmGeneralNews(shell::PageContext& context)
+        : Page(context, Decl()), lvwNews(Get<ListControl>("lvwNews")) {
+        Editor("lvwNews").onEdit = [this](int row) { ShowArticle(row); };
     }
 
   private:
-    void Setup() override {
-        shell::SetupDeleteToolbar(tlbListview);
-        shell::SetupEditToolbar(tlbListview);
-        AddNewsColumns(lvwNews);
-        const int width = lvwNews.Width() - 350;
-        lvwNews.SetColumnWidth(1, width / 5);
-        lvwNews.SetColumnWidth(2, width * 4 / 5);
-    }
-
     void LoadSettings() override {
         lvwNews.Clear();
         LoadNewsRows(context_.files, lvwNews);
-        const bool rows = lvwNews.Count() > 0;
-        tlbListview.SetButtonEnabled("DELETE", rows);
-        tlbListview.SetButtonEnabled("EDIT", rows);
+        Page::LoadSettings();
     }
-
-    void RestoreDefaults() override {}
 
     void SaveSettings() override {
         context_.files.WriteTextFile(kNewsFile, NewsText(lvwNews), true);
@@ -185,46 +182,25 @@ class NewsPage : public Page {
         if (key == "SAVE") Reload();
     }
 
-    // The row the buttons act on: the selected one, or the first, which the list has current
-    // until the user picks another.
-    int Current() const { return lvwNews.Selected() != 0 ? lvwNews.Selected() : 1; }
-
-    // EDIT edits nothing: it shows the article, with the icon its symbol asks for.
-    void Edit() {
-        if (lvwNews.Count() == 0) return;
-        const int row = Current();
+    // The icon is the one the article's symbol asks for.
+    void ShowArticle(int row) {
         shell::Icon icon = shell::Icon::Information;
-        const std::string& symbol = lvwNews.Cell(row, 4);
+        const std::string& symbol = lvwNews.Cell(row, kSymbol);
         if (symbol == "2") icon = shell::Icon::Question;
         if (symbol == "3") icon = shell::Icon::Exclamation;
         if (symbol == "4") icon = shell::Icon::Critical;
-        context_.host.ShowMessage({lvwNews.Cell(row, 3),
-                                   lvwNews.Row(row).text + " - " + lvwNews.Cell(row, 2),
+        context_.host.ShowMessage({lvwNews.Cell(row, kStory),
+                                   lvwNews.Row(row).text + " - " + lvwNews.Cell(row, kHeadline),
                                    shell::Buttons::OK, icon});
     }
 
-    void Delete() {
-        if (lvwNews.Count() == 0) return;
-        if (!Confirm("Do you really want to delete this News Article?", "Delete News Article?")) {
-            return;
-        }
-        lvwNews.Remove(Current());
-        if (lvwNews.Count() == 0) {
-            for (const char* key : {"DELETE", "EDIT"})
-                tlbListview.SetButtonEnabled(key, false);
-        }
-        MarkDirty();
-    }
-
-    shell::Toolbar& tlbListview;
     ListControl& lvwNews;
 };
 
 }  // namespace
 
-void RegisterNewsPages(shell::PageRegistry& registry) {
-    registry.Register("General~News",
-                      [](PageContext& context) { return std::make_unique<NewsPage>(context); });
+shell::PageEntry NewsPage() {
+    return shell::PageOf<frmGeneralNews>();
 }
 
 }  // namespace qb::pages

@@ -38,6 +38,6 @@ void LoadNews(store::TableFiles& files, shell::ListControl& lvwNews,
               shell::StatusBar* stsContainer);
 
 // frmGeneralNews: the news rows, to read and delete.
-void RegisterNewsPages(shell::PageRegistry& registry);
+shell::PageEntry NewsPage();
 
 }  // namespace qb::pages

@@ -1,10 +1,7 @@
 #include "pages/general/switches.h"
 
 #include "pages/general/switch_descriptions.h"
-#include "shell/page.h"
-#include "shell/table_lists.h"
 #include "store/settings_tree.h"
-#include "store/table_text.h"
 
 namespace qb::pages {
 namespace {
@@ -95,66 +92,40 @@ const store::FileSchema& EnableRightClicksSchema() {
     return schema;
 }
 
-// Every rebuild rewrites both files from the defaults, so a function the user switched off comes
-// back on: the files have always been reset so, and hub owners expect it.
-void RegisterSwitchBuilders(store::BuilderRegistry& builders) {
-    builders.Add("General\\Globals", SwitchesSchema());
-    builders.Add("General\\Globals", EnableRightClicksSchema());
-}
-
 // ---- The two pages ---------------------------------------------------------------------------
 
 namespace {
 
 using shell::ListControl;
-using shell::Page;
-using shell::PageContext;
 
 // frmGeneralSwitches and frmGeneralRightClicks: one check list of the file's switches. The list
-// is as long as the file: a key missing from the file has no row.
-class SwitchesPage : public Page {
+// is as long as the file: a key missing from the file has no row. RESTORE ticks every row, the
+// two functions that are off by default too: the page doesn't ask the defaults, and the whole
+// list stays ticked until saved. A discard leaves the page clean, unlike the settings pages.
+shell::PageDecl SwitchesDecl(std::string key, std::string caption, const store::FileSchema& file) {
+    using namespace shell::decl;
+    constexpr int kWidth = shell::FillWidth(3400);
+    return {.key = std::move(key),
+            .caption = std::move(caption),
+            .size = {3400, 6075},
+            .files = {&file},
+            .controls = {With({.restoreTicksAll = true},
+                              FlagRows("lvwSwitches", file.table, kWidth,
+                                       {{"column1", "Functions", kWidth - 350}})),
+                         Tooltip("ttpDescription")},
+            .discardClears = true};
+}
+
+class frmGeneralSwitches : public shell::Page {
   public:
-    SwitchesPage(PageContext& context, std::string key, std::string caption,
-                 const store::FileSchema& schema)
-        : Page(context, std::move(key), std::move(caption), {3400, 6075}),
-          schema_(schema),
-          lvwSwitches(Add<ListControl>("lvwSwitches", true)),
-          ttpDescription(Add<shell::Tooltip>("ttpDescription")) {
-        lvwSwitches.SetWidth(3400 - 180 - 2 * 120);
-        lvwSwitches.onItemCheck = [this](int) { MarkDirty(); };
+    frmGeneralSwitches(shell::PageContext& context, const shell::PageDecl& decl)
+        : Page(context, decl),
+          lvwSwitches(Get<ListControl>("lvwSwitches")),
+          ttpDescription(Get<shell::Tooltip>("ttpDescription")) {
         lvwSwitches.onItemClick = [this](int row) { Describe(row); };
-        // A discard here leaves the page clean, unlike the settings pages.
-        SetDiscardClears(true);
-        SetBody(shell::Column({shell::Item(lvwSwitches)}));
     }
 
   private:
-    void Setup() override {
-        lvwSwitches.AddColumn("column1", "Functions", lvwSwitches.Width() - 350);
-    }
-
-    void LoadSettings() override {
-        lvwSwitches.Clear();
-        shell::LoadTableRows(context_.files, schema_.file, lvwSwitches, "=", schema_.table, true,
-                             false, false);
-        for (int row = 1; row <= lvwSwitches.Count(); ++row)
-            lvwSwitches.SetText(row, lvwSwitches.Row(row).text.substr(1));
-    }
-
-    // Every row ticked, the two functions that are off by default too: the page doesn't ask the
-    // defaults, and the whole list stays ticked until saved.
-    void RestoreDefaults() override {
-        for (int row = 1; row <= lvwSwitches.Count(); ++row)
-            lvwSwitches.SetChecked(row, true);
-    }
-
-    void SaveSettings() override {
-        store::TableText text(schema_.table + " = {");
-        for (const auto& row : lvwSwitches.Rows())
-            text.Line(1, "b" + row.text + " = " + (row.checked ? "1" : "0") + ",");
-        context_.files.WriteTextFile(schema_.file, text.End());
-    }
-
     // A click on a row tells what the function does, where the table knows it.
     void Describe(int row) {
         ttpDescription.Destroy();
@@ -165,22 +136,28 @@ class SwitchesPage : public Page {
         ttpDescription.Create(lvwSwitches);
     }
 
-    const store::FileSchema& schema_;
     ListControl& lvwSwitches;
     shell::Tooltip& ttpDescription;
 };
 
+shell::PageEntry SwitchesPageOf(const shell::PageDecl& decl) {
+    return {decl, [&decl](shell::PageContext& context) {
+                return std::make_unique<frmGeneralSwitches>(context, decl);
+            }};
+}
+
 }  // namespace
 
-void RegisterSwitchPages(shell::PageRegistry& registry) {
-    registry.Register("General~Switches", [](PageContext& context) {
-        return std::make_unique<SwitchesPage>(context, "General~Switches", "General ~ Switches",
-                                              SwitchesSchema());
-    });
-    registry.Register("General~EnableRightClicks", [](PageContext& context) {
-        return std::make_unique<SwitchesPage>(context, "General~EnableRightClicks",
-                                              "General ~ Right Clicks", EnableRightClicksSchema());
-    });
+shell::PageEntry SwitchesPage() {
+    static const shell::PageDecl decl =
+        SwitchesDecl("General~Switches", "General ~ Switches", SwitchesSchema());
+    return SwitchesPageOf(decl);
+}
+
+shell::PageEntry RightClicksPage() {
+    static const shell::PageDecl decl = SwitchesDecl(
+        "General~EnableRightClicks", "General ~ Right Clicks", EnableRightClicksSchema());
+    return SwitchesPageOf(decl);
 }
 
 }  // namespace qb::pages

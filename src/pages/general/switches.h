@@ -26,10 +26,10 @@ const store::FileSchema& SwitchesSchema();
 // General\Globals\EnableRightClicks.tbl, table tEnableRightClicks.
 const store::FileSchema& EnableRightClicksSchema();
 
-// frmGeneralSwitches and frmGeneralRightClicks, one check list of each file's switches.
-void RegisterSwitchPages(shell::PageRegistry& registry);
-
-// Both reset files, Switches.tbl first.
-void RegisterSwitchBuilders(store::BuilderRegistry& builders);
+// frmGeneralSwitches and frmGeneralRightClicks, one check list of each file's switches. Every
+// rebuild rewrites both files from the defaults, so a function the user switched off comes back
+// on: the files have always been reset so, and hub owners expect it.
+shell::PageEntry SwitchesPage();
+shell::PageEntry RightClicksPage();
 
 }  // namespace qb::pages

@@ -27,7 +27,8 @@ constexpr int kText = 2;  // lvwTexts: the key is the row's text, the language's
 class LanguagePage : public Page {
   public:
     LanguagePage(PageContext& context, const LanguageSet& set, std::string caption)
-        : Page(context, std::string(set.key), std::move(caption), {8400, 6075}),
+        : Page(context,
+               {.key = std::string(set.key), .caption = std::move(caption), .size = {8400, 6075}}),
           set_(set),
           tlbFiles(Add<Toolbar>("tlbFiles")),
           lvwFiles(Add<ListControl>("lvwFiles", true)),

@@ -2,24 +2,31 @@
 
 namespace qb::pages {
 
-const std::vector<ActionCode>& ActionCodes() {
-    static const std::vector<ActionCode> codes = {
+const std::vector<store::Choice>& ActionChoices() {
+    static const std::vector<store::Choice> codes = {
         {"Disconnect", "D"}, {"Warn", "W"},    {"Notify Ops", "N"},
         {"Kick", "K"},       {"TempBan", "T"}, {"Ban", "B"},
     };
     return codes;
 }
 
+std::vector<std::string> ActionNames() {
+    std::vector<std::string> names;
+    for (const store::Choice& action : ActionChoices())
+        names.push_back(action.shown);
+    return names;
+}
+
 std::string ActionName(std::string_view code) {
-    for (const ActionCode& action : ActionCodes()) {
-        if (action.code == code) return std::string(action.name);
+    for (const store::Choice& action : ActionChoices()) {
+        if (action.stored == code) return action.shown;
     }
     return {};
 }
 
 std::string ActionCodeOf(std::string_view name) {
-    for (const ActionCode& action : ActionCodes()) {
-        if (action.name == name) return std::string(action.code);
+    for (const store::Choice& action : ActionChoices()) {
+        if (action.shown == name) return action.stored;
     }
     return {};
 }

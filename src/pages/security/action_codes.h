@@ -6,15 +6,15 @@
 #include <string_view>
 #include <vector>
 
+#include "store/schema.h"
+
 namespace qb::pages {
 
-struct ActionCode {
-    std::string_view name;  // as the combo box lists it
-    std::string_view code;  // as the file holds it
-};
+// The six actions in the order the combo boxes list them, each name with its letter.
+const std::vector<store::Choice>& ActionChoices();
 
-// In the order the combo boxes list them.
-const std::vector<ActionCode>& ActionCodes();
+// The names alone, in that order, as an edit dialog's combo lists them.
+std::vector<std::string> ActionNames();
 
 // The name of a code, or empty for a code the table lacks.
 std::string ActionName(std::string_view code);

@@ -3,15 +3,22 @@
 namespace qb::pages {
 
 void RegisterSecurityPages(shell::PageRegistry& registry) {
-    RegisterClientCheckerPage(registry);
-    RegisterFloodPage(registry);
-    RegisterSpyPages(registry);
+    registry.Register({
+        ClientCheckerPage(),
+        PairMatrixPageOf(FloodMatrix()),
+        CommandSpyPage(),
+    });
 }
 
+// The security area's files, in the order a rebuild writes them in each folder.
 void RegisterSecurityBuilders(store::BuilderRegistry& builders) {
-    RegisterClientCheckerBuilders(builders);
-    RegisterFloodBuilders(builders);
-    RegisterSpyBuilders(builders);
+    builders.Add({
+        ClientCheckerSettingsSchema(),
+        ClientVersionsSchema(),
+        PairMatrixBuild(FloodMatrix()),
+        CommandSpySettingsSchema(),
+        CommandSpyUsersSchema(),
+    });
 }
 
 }  // namespace qb::pages

@@ -1,7 +1,7 @@
 #pragma once
 // The security functions: their pages and the descriptions of their files.
 
-#include "pages/matrix/pair_matrix.h"
+#include "families/matrix/pair_matrix.h"
 #include "shell/page_registry.h"
 #include "store/builders.h"
 #include "store/schema.h"
@@ -12,8 +12,7 @@ void RegisterSecurityPages(shell::PageRegistry& registry);
 void RegisterSecurityBuilders(store::BuilderRegistry& builders);
 
 // The client checker (client_checker.cpp).
-void RegisterClientCheckerPage(shell::PageRegistry& registry);
-void RegisterClientCheckerBuilders(store::BuilderRegistry& builders);
+shell::PageEntry ClientCheckerPage();
 // Security\ClientChecker\ClientCheckerSettings.tbl: the action, its ban time, the blocked
 // connection types and the exempt profiles.
 const store::FileSchema& ClientCheckerSettingsSchema();
@@ -21,14 +20,11 @@ const store::FileSchema& ClientCheckerSettingsSchema();
 // user fills, made empty when missing.
 const store::FileSchema& ClientVersionsSchema();
 
-// The flooder, a pair matrix (flood.cpp).
-void RegisterFloodPage(shell::PageRegistry& registry);
-void RegisterFloodBuilders(store::BuilderRegistry& builders);
+// The flooder, a pair matrix (flooder.cpp).
 const PairMatrix& FloodMatrix();
 
-// Search spy and command spy (spies.cpp).
-void RegisterSpyPages(shell::PageRegistry& registry);
-void RegisterSpyBuilders(store::BuilderRegistry& builders);
+// The command spy (command_spy.cpp).
+const shell::PageDecl& CommandSpyPage();
 // Security\CommandSpy\CommandSpySettings.tbl: the profiles that watch command use.
 const store::FileSchema& CommandSpySettingsSchema();
 // Security\CommandSpy\CommandSpyUsers.tbl: the script's own list, made empty when missing.

@@ -2,17 +2,10 @@
 // every cell is carried over by its By and On numbers, numbers new to the hub start at 0, and
 // numbers the hub lost are dropped. A profile's name plays no part in it.
 
-#include "pages/matrix/pair_matrix.h"
+#include "families/matrix/pair_matrix.h"
 #include "store/table_text.h"
 
 namespace qb::pages {
-namespace {
-
-std::string FolderOf(const std::string& file) {
-    return file.substr(0, file.rfind('\\'));
-}
-
-}  // namespace
 
 void BuildPairMatrix(const PairMatrix& matrix, store::BuildRun& run) {
     // A matrix of P profiles asks its file P times P: the scope reads it once.
@@ -48,10 +41,11 @@ void BuildPairMatrix(const PairMatrix& matrix, store::BuildRun& run) {
     run.files.WriteTextFile(matrix.file, text.End());
 }
 
-void RegisterPairMatrixBuilders(store::BuilderRegistry& builders, const PairMatrix& matrix) {
-    const std::string folder = FolderOf(matrix.file);
-    builders.Add(folder, [&matrix](store::BuildRun& run) { BuildPairMatrix(matrix, run); });
-    if (matrix.passive != nullptr) builders.Add(folder, *matrix.passive->dataFile);
+store::BuildStep PairMatrixBuild(const PairMatrix& matrix) {
+    return {store::FolderOf(matrix.file), [&matrix](store::BuildRun& run) {
+                BuildPairMatrix(matrix, run);
+                if (matrix.passive != nullptr) BuildFile(*matrix.passive->dataFile, run);
+            }};
 }
 
 }  // namespace qb::pages

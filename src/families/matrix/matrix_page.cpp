@@ -1,4 +1,4 @@
-#include "pages/matrix/matrix_page.h"
+#include "families/matrix/matrix_page.h"
 
 #include "shell/catalogue.h"
 
@@ -6,13 +6,15 @@ namespace qb::pages {
 
 MatrixPage::MatrixPage(shell::PageContext& context, const std::string& key, shell::PageSize size,
                        int settingColumn)
-    : Page(context, key, shell::CaptionOfKey(key), size),
+    // A discard reloads the files and leaves nothing to save.
+    : Page(context, {.key = key,
+                     .caption = shell::CaptionOfKey(key),
+                     .size = size,
+                     .noRestore = true,
+                     .discardClears = true}),
       tlbListview(Add<shell::Toolbar>("tlbListview")),
       lvwPermissions(Add<shell::ListControl>("lvwPermissions")),
       settingColumn_(settingColumn) {
-    SetNoRestore(true);
-    // A discard reloads the files and leaves nothing to save.
-    SetDiscardClears(true);
     tlbListview.onButtonClick = [this](const std::string& button) {
         if (button == "EDIT") {
             Flip();

@@ -22,6 +22,6 @@ struct CommandMatrix {
 };
 
 // The member must outlive the registry.
-void RegisterCommandMatrixPage(shell::PageRegistry& registry, const CommandMatrix& matrix);
+shell::PageEntry CommandMatrixPageOf(const CommandMatrix& matrix);
 
 }  // namespace qb::pages

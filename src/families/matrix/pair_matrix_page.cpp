@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
-#include "pages/matrix/matrix_page.h"
-#include "pages/matrix/pair_matrix.h"
+#include "families/matrix/matrix_page.h"
+#include "families/matrix/pair_matrix.h"
 #include "shell/page_frame.h"
 #include "shell/profile_checks.h"
 #include "store/table_text.h"
@@ -147,10 +147,10 @@ class PairMatrixPage : public MatrixPage {
 
 }  // namespace
 
-void RegisterPairMatrixPage(shell::PageRegistry& registry, const PairMatrix& matrix) {
-    registry.Register(matrix.key, [&matrix](PageContext& context) {
-        return std::make_unique<PairMatrixPage>(context, matrix);
-    });
+shell::PageEntry PairMatrixPageOf(const PairMatrix& matrix) {
+    return {matrix.key, [&matrix](PageContext& context) {
+                return std::make_unique<PairMatrixPage>(context, matrix);
+            }};
 }
 
 }  // namespace qb::pages

@@ -41,10 +41,10 @@ struct PairMatrix {
     const PassiveVariant* passive = nullptr;
 };
 
-// The member must outlive the registries.
-void RegisterPairMatrixPage(shell::PageRegistry& registry, const PairMatrix& matrix);
-// The file's builder, and the variant's data file after it, against the file's folder.
-void RegisterPairMatrixBuilders(store::BuilderRegistry& builders, const PairMatrix& matrix);
+// The member's page. The member must outlive the registries.
+shell::PageEntry PairMatrixPageOf(const PairMatrix& matrix);
+// The file's builder, and the variant's data file after it, in the file's folder.
+store::BuildStep PairMatrixBuild(const PairMatrix& matrix);
 
 // Rewrites the member's file for today's profiles: each cell keeps the value of its two profile
 // numbers, and a number the old file lacks starts at 0.

@@ -1,4 +1,4 @@
-#include "pages/matrix/permissions.h"
+#include "families/matrix/permission_collection.h"
 
 #include <charconv>
 #include <limits>

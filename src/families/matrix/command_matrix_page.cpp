@@ -3,9 +3,9 @@
 
 #include <optional>
 
-#include "pages/matrix/command_matrix.h"
-#include "pages/matrix/matrix_page.h"
-#include "pages/matrix/permissions.h"
+#include "families/matrix/command_matrix.h"
+#include "families/matrix/matrix_page.h"
+#include "families/matrix/permission_collection.h"
 #include "shell/page_frame.h"
 #include "store/fatal_error.h"
 #include "store/table_text.h"
@@ -168,10 +168,10 @@ class CommandMatrixPage : public MatrixPage {
 
 }  // namespace
 
-void RegisterCommandMatrixPage(shell::PageRegistry& registry, const CommandMatrix& matrix) {
-    registry.Register(matrix.key, [&matrix](PageContext& context) {
-        return std::make_unique<CommandMatrixPage>(context, matrix);
-    });
+shell::PageEntry CommandMatrixPageOf(const CommandMatrix& matrix) {
+    return {matrix.key, [&matrix](PageContext& context) {
+                return std::make_unique<CommandMatrixPage>(context, matrix);
+            }};
 }
 
 }  // namespace qb::pages

@@ -11,12 +11,4 @@ const PairMatrix& FloodMatrix() {
     return matrix;
 }
 
-void RegisterFloodPage(shell::PageRegistry& registry) {
-    RegisterPairMatrixPage(registry, FloodMatrix());
-}
-
-void RegisterFloodBuilders(store::BuilderRegistry& builders) {
-    RegisterPairMatrixBuilders(builders, FloodMatrix());
-}
-
 }  // namespace qb::pages

@@ -1,0 +1,13 @@
+// Mute: who may mute whom, by profile. The pair shape of the permission matrices.
+
+#include "pages/communication/communication.h"
+
+namespace qb::pages {
+
+const PairMatrix& MuteMatrix() {
+    static const PairMatrix matrix{"Communication~Mute", "Mute", "Communication\\Mute\\Mute.tbl",
+                                   "tMute", -1};
+    return matrix;
+}
+
+}  // namespace qb::pages

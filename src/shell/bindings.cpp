@@ -1,0 +1,383 @@
+#include "shell/bindings.h"
+
+#include <algorithm>
+#include <charconv>
+#include <stdexcept>
+
+#include "shell/profile_checks.h"
+#include "shell/table_lists.h"
+#include "store/text_rules.h"
+
+namespace qb::shell {
+namespace {
+
+using store::FieldKind;
+
+// A value the file holds for one key of the bound table; a row of named flags is read in its
+// sub-table.
+std::string ReadBound(store::TableFiles& files, const Binding& binding) {
+    const std::string& key = binding.Key();
+    const size_t dot = key.find('.');
+    if (dot == std::string::npos) {
+        return files.ReadTableValue(binding.File().file, key, binding.File().table,
+                                    binding.File().inAppFolder);
+    }
+    return files.ReadTableValue(binding.File().file, key.substr(dot + 1), key.substr(0, dot),
+                                binding.File().inAppFolder);
+}
+
+std::string DefaultOfBound(const Binding& binding) {
+    return binding.Field().defaultValue;
+}
+
+int CheckValue(std::string_view value) {
+    return store::IsNumericallyOne(value) ? 1 : 0;
+}
+
+// ---- Scalars
+// -------------------------------------------------------------------------------------
+
+class CheckBinding : public Binding {
+  public:
+    CheckBinding(const store::FileSchema& file, const store::Field& field, std::string key,
+                 CheckBox& box)
+        : Binding(file, field, std::move(key)), box_(box) {}
+    void Load(store::TableFiles& files, const store::ProfileList&) override {
+        box_.SetValue(CheckValue(ReadBound(files, *this)));
+    }
+    void Restore(const store::ProfileList&) override {
+        box_.SetValue(CheckValue(DefaultOfBound(*this)));
+    }
+    std::string Value(int) const override { return std::to_string(box_.Value()); }
+
+  private:
+    CheckBox& box_;
+};
+
+class TextBinding : public Binding {
+  public:
+    TextBinding(const store::FileSchema& file, const store::Field& field, std::string key,
+                TextBox& box, Quirks quirks)
+        : Binding(file, field, std::move(key)), box_(box), quirks_(std::move(quirks)) {}
+    void Load(store::TableFiles& files, const store::ProfileList&) override {
+        if (quirks_.initial) box_.SetText(*quirks_.initial);
+        std::string value = ReadBound(files, *this);
+        if (quirks_.initial && value.empty()) return;
+        box_.SetText(std::move(value));
+    }
+    void Restore(const store::ProfileList&) override { box_.SetText(DefaultOfBound(*this)); }
+    std::string Value(int) const override { return box_.Text(); }
+
+  private:
+    TextBox& box_;
+    Quirks quirks_;
+};
+
+// A combo shows a choice by name and the file holds it in its own form.
+class ComboBinding : public Binding {
+  public:
+    ComboBinding(const store::FileSchema& file, const store::Field& field, std::string key,
+                 ComboBox& combo, Quirks quirks)
+        : Binding(file, field, std::move(key)), combo_(combo), quirks_(std::move(quirks)) {}
+
+    // The items are filled again at each load, as the page has always done.
+    void Load(store::TableFiles& files, const store::ProfileList&) override {
+        const std::string shown = combo_.Text();
+        combo_.ClearItems();
+        for (const store::Choice& choice : Field().choices)
+            combo_.AddItem(choice.shown);
+        combo_.SetText(quirks_.initial.value_or(shown));
+        const std::string value = ReadBound(files, *this);
+        if (quirks_.initial && value.empty()) return;
+        Show(value);
+    }
+    void Restore(const store::ProfileList&) override { Show(DefaultOfBound(*this)); }
+    std::string Value(int) const override {
+        for (const store::Choice& choice : Field().choices) {
+            if (choice.shown == combo_.Text()) return choice.stored;
+        }
+        return combo_.Text();
+    }
+
+  private:
+    void Show(const std::string& stored) {
+        for (const store::Choice& choice : Field().choices) {
+            if (choice.stored == stored) {
+                combo_.SetText(choice.shown);
+                return;
+            }
+        }
+        // A value the combo doesn't list: shown as it stands, or passed over.
+        if (!quirks_.showsUnlisted) return;
+        combo_.SetListOnly(false);
+        combo_.SetText(stored);
+        combo_.SetListOnly(true);
+    }
+
+    ComboBox& combo_;
+    Quirks quirks_;
+};
+
+// The text box shows the number as the file has it; the up-down follows where it can. Only the
+// up-down is held to the range, so a file's value outside it shows and saves as it stands.
+class SpinBinding : public Binding {
+  public:
+    SpinBinding(const store::FileSchema& file, const store::Field& field, std::string key,
+                UpDown& upDown, TextBox& box, Quirks quirks)
+        : Binding(file, field, std::move(key)),
+          upDown_(upDown),
+          box_(box),
+          quirks_(std::move(quirks)) {}
+    void Load(store::TableFiles& files, const store::ProfileList&) override {
+        if (quirks_.initial) Show(*quirks_.initial);
+        std::string value = ReadBound(files, *this);
+        if (quirks_.initial && value.empty()) return;
+        Show(std::move(value));
+    }
+    void Restore(const store::ProfileList&) override { Show(DefaultOfBound(*this)); }
+    std::string Value(int) const override { return box_.Text(); }
+
+  private:
+    void Show(std::string text) {
+        int value = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+        if (error == std::errc() && end == text.data() + text.size()) {
+            upDown_.SetValue(std::clamp(value, upDown_.Min(), upDown_.Max()));
+        }
+        box_.SetText(std::move(text));
+    }
+
+    UpDown& upDown_;
+    TextBox& box_;
+    Quirks quirks_;
+};
+
+// ---- Lists
+// ---------------------------------------------------------------------------------------
+
+class ProfileChecksBinding : public Binding {
+  public:
+    ProfileChecksBinding(const store::FileSchema& file, const store::Field& field,
+                         ListControl& list)
+        : Binding(file, field, field.key), list_(list) {}
+    void Load(store::TableFiles& files, const store::ProfileList& profiles) override {
+        LoadProfileChecks(list_, files, profiles, File().file, Key());
+    }
+    void Restore(const store::ProfileList& profiles) override {
+        ResetProfileChecks(list_, profiles);
+    }
+    std::string Value(int profile) const override { return ProfileCheckValue(list_, profile); }
+
+  private:
+    ListControl& list_;
+};
+
+// A check list of named flags as the file has them: a row per key of the sub-table (or of the
+// whole file), shown from its second letter; the save writes the rows the list holds.
+class FlagRowsBinding : public Binding {
+  public:
+    FlagRowsBinding(const store::FileSchema& file, const store::Field& field, std::string key,
+                    ListControl& list, Quirks quirks)
+        : Binding(file, field, std::move(key)), list_(list), quirks_(std::move(quirks)) {}
+    void Load(store::TableFiles& files, const store::ProfileList&) override {
+        list_.Clear();
+        LoadTableRows(files, File().file, list_, "=", Key(), true, File().inAppFolder, false);
+        for (int row = 1; row <= list_.Count(); ++row) {
+            const std::string& text = list_.Row(row).text;
+            list_.SetText(row, text.size() > 1 ? text.substr(1, quirks_.keepLetters) : "");
+        }
+    }
+    // The rows stay as they are, each ticked or not as the field's default has it.
+    void Restore(const store::ProfileList&) override {
+        const bool ticked =
+            quirks_.restoreTicksAll || store::IsNumericallyOne(Field().defaultValue);
+        for (int row = 1; row <= list_.Count(); ++row)
+            list_.SetChecked(row, ticked);
+    }
+    std::string Value(int row) const override { return list_.Row(row + 1).checked ? "1" : "0"; }
+    std::string ValueOf(const store::Field& field, int row) const override {
+        return WholeFile() ? field.defaultValue : Value(row);
+    }
+    void Shape(store::FileSchema& schema) const override {
+        if (!WholeFile()) {
+            for (store::Field& field : schema.fields) {
+                if (field.key != Key()) continue;
+                field.rows.clear();
+                for (const ListRow& row : list_.Rows())
+                    field.rows.push_back("b" + row.text);
+            }
+            return;
+        }
+        // A file of flags: a line per row, in the list's order. The shaped field carries the
+        // row's value, so that a key the file holds twice keeps each row's own.
+        schema.fields.clear();
+        schema.pageForm.order.clear();
+        for (const ListRow& row : list_.Rows()) {
+            schema.fields.push_back(
+                {store::FieldKind::Flag, "b" + row.text, row.checked ? "1" : "0"});
+        }
+    }
+    bool WholeFile() const { return Key() == File().table; }
+
+  private:
+    ListControl& list_;
+    Quirks quirks_;
+};
+
+// The rows of a list the user keeps, one list row each: a bare row's text; a named row's key
+// as text and value in column 2; a numbered row's value in column 2 under a running number.
+class RowsBinding : public Binding {
+  public:
+    RowsBinding(const store::FileSchema& file, const store::Field& field, ListControl& list,
+                Quirks quirks)
+        : Binding(file, field, field.key), list_(list), quirks_(std::move(quirks)) {}
+    void Load(store::TableFiles& files, const store::ProfileList&) override {
+        list_.Clear();
+        const bool keyed = Field().rowForm != store::RowForm::Bare;
+        LoadTableRows(files, File().file, list_, keyed ? "=" : "", Key(), false, File().inAppFolder,
+                      false);
+    }
+    void Restore(const store::ProfileList&) override {
+        if (quirks_.restoreRows == Quirks::RestoreRows::Keep) return;
+        list_.Clear();
+        if (quirks_.restoreRows == Quirks::RestoreRows::Empty) return;
+        for (const store::ListEntry& entry : Field().defaultRows) {
+            const int row = list_.Count() + 1;
+            if (Field().rowForm == store::RowForm::Bare) {
+                list_.Append("id" + std::to_string(row), entry.value);
+            } else {
+                list_.Append("id" + std::to_string(row), entry.key);
+                list_.SetCell(row, 2, entry.value);
+            }
+        }
+    }
+    std::string Value(int) const override { return {}; }
+    std::vector<store::ListEntry> Rows() const override {
+        std::vector<store::ListEntry> rows;
+        for (int row = 1; row <= list_.Count(); ++row) {
+            if (Field().rowForm == store::RowForm::Bare) {
+                rows.push_back({{}, list_.Row(row).text});
+            } else {
+                rows.push_back({list_.Row(row).text, list_.Cell(row, 2)});
+            }
+        }
+        return rows;
+    }
+
+  private:
+    ListControl& list_;
+    Quirks quirks_;
+};
+
+const store::Field& FieldOf(const store::FileSchema& file, const std::string& key) {
+    if (const store::Field* field = store::FindField(file, key)) return *field;
+    if (key == file.table && !file.fields.empty()) return file.fields.front();
+    throw std::logic_error(file.file + " has no key " + key);
+}
+
+}  // namespace
+
+std::unique_ptr<Control> MakeControl(const ControlDecl& decl) {
+    switch (decl.kind) {
+        case ControlKind::List: {
+            auto list = std::make_unique<ListControl>(decl.name, decl.checkBoxes);
+            list->SetWidth(decl.width);
+            return list;
+        }
+        case ControlKind::Toolbar:
+            return std::make_unique<Toolbar>(decl.name);
+        case ControlKind::Text: {
+            auto box = std::make_unique<TextBox>(decl.name, decl.multiLine);
+            box->SetCaption(decl.caption);
+            return box;
+        }
+        case ControlKind::Check:
+            return std::make_unique<CheckBox>(decl.name, decl.caption);
+        case ControlKind::Combo: {
+            auto combo = std::make_unique<ComboBox>(decl.name);
+            combo->SetCaption(decl.caption);
+            return combo;
+        }
+        case ControlKind::Label:
+            return std::make_unique<Label>(decl.name, decl.caption);
+        case ControlKind::Frame: {
+            auto frame = std::make_unique<Frame>(decl.name);
+            frame->SetCaption(decl.caption);
+            return frame;
+        }
+        case ControlKind::Button:
+            return std::make_unique<Button>(decl.name, decl.caption);
+        case ControlKind::Tooltip:
+            return std::make_unique<Tooltip>(decl.name);
+        case ControlKind::UpDown:
+        case ControlKind::StatusBar:
+            break;
+    }
+    throw std::logic_error("no maker of " + decl.name);
+}
+
+std::unique_ptr<Binding> Bind(const ControlDecl& decl, const store::FileSchema* file,
+                              Control& control, Control* textBox,
+                              const std::function<void()>& markDirty) {
+    // Every change of a control that feeds a file marks the page, the bound ones and the few that
+    // only mark it.
+    switch (control.Kind()) {
+        case ControlKind::Check:
+            static_cast<CheckBox&>(control).onClick = markDirty;
+            break;
+        case ControlKind::Text:
+            static_cast<TextBox&>(control).onChange = markDirty;
+            break;
+        case ControlKind::Combo:
+            static_cast<ComboBox&>(control).onClick = markDirty;
+            break;
+        case ControlKind::UpDown: {
+            auto& upDown = static_cast<UpDown&>(control);
+            auto* box = static_cast<TextBox*>(textBox);
+            upDown.onChange = [&upDown, box, markDirty] {
+                box->SetText(std::to_string(upDown.Value()));
+                markDirty();
+            };
+            break;
+        }
+        case ControlKind::List:
+            if (decl.checkBoxes)
+                static_cast<ListControl&>(control).onItemCheck = [markDirty](int) { markDirty(); };
+            break;
+        default:
+            break;
+    }
+    if (decl.key.empty()) return nullptr;
+
+    const store::Field& field = FieldOf(*file, decl.key);
+    switch (control.Kind()) {
+        case ControlKind::Check:
+            return std::make_unique<CheckBinding>(*file, field, decl.key,
+                                                  static_cast<CheckBox&>(control));
+        case ControlKind::Text:
+            return std::make_unique<TextBinding>(*file, field, decl.key,
+                                                 static_cast<TextBox&>(control), decl.quirks);
+        case ControlKind::Combo:
+            return std::make_unique<ComboBinding>(*file, field, decl.key,
+                                                  static_cast<ComboBox&>(control), decl.quirks);
+        case ControlKind::UpDown:
+            return std::make_unique<SpinBinding>(*file, field, decl.key,
+                                                 static_cast<UpDown&>(control),
+                                                 static_cast<TextBox&>(*textBox), decl.quirks);
+        case ControlKind::List: {
+            auto& list = static_cast<ListControl&>(control);
+            if (field.kind == FieldKind::ProfileChecks) {
+                return std::make_unique<ProfileChecksBinding>(*file, field, list);
+            }
+            if (field.kind == FieldKind::Rows) {
+                return std::make_unique<RowsBinding>(*file, field, list, decl.quirks);
+            }
+            return std::make_unique<FlagRowsBinding>(*file, field, decl.key, list, decl.quirks);
+        }
+        default:
+            break;
+    }
+    throw std::logic_error(decl.name + " can't be bound");
+}
+
+}  // namespace qb::shell

@@ -1,0 +1,192 @@
+#pragma once
+// A page as data: its key, caption and size, the files its SAVE writes, its controls in the order
+// they stand, and for each control that feeds a file the key it is bound to. From that the page
+// loads, restores, saves and marks itself dirty with no code of its own; the quirks a control has
+// always had are properties of its binding. A page that needs behaviour of its own is a class over
+// the same declaration, and keeps only the code that is truly its own.
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "shell/controls.h"
+#include "shell/host.h"
+#include "shell/layout.h"
+#include "store/schema.h"
+
+namespace qb::shell {
+
+struct PageSize {
+    int width;   // twips
+    int height;  // twips
+};
+
+// How a bound control has always read, shown or kept its value, where that isn't the plain way.
+struct Quirks {
+    // Shown before the file is read at every load; an empty value in the file leaves it shown.
+    std::optional<std::string> initial{};
+    // A combo shows a stored value it doesn't list as it stands; without this, the combo keeps
+    // what it showed before the read.
+    bool showsUnlisted = false;
+    // A check list of named flags shows each key from its second letter ("bPassive" as
+    // "Passive"), at most this many letters.
+    size_t keepLetters = std::string::npos;
+    // RESTORE on a check list of named flags ticks every row, whatever its default.
+    bool restoreTicksAll = false;
+    // What RESTORE does to a list of rows: leaves it, empties it, or puts the field's default
+    // rows in.
+    enum class RestoreRows { Keep, Empty, Defaults } restoreRows = RestoreRows::Keep;
+};
+
+// One control of a page.
+struct ControlDecl {
+    ControlKind kind;
+    std::string name;
+    std::string caption{};
+    // The field the control is bound to, in `file` (null: the page's first file). A profile check
+    // list names its sub-table; a check list of named flags its sub-table, or the file's own
+    // table for a file of flags; a check box of a named flag "tSub.bRow".
+    std::string key{};
+    const store::FileSchema* file = nullptr;
+    Quirks quirks{};
+    bool marksOnly = false;  // unbound, yet a change of it marks the page
+    // A list's look: check boxes, width in twips, columns.
+    bool checkBoxes = false;
+    int width = 0;
+    std::vector<ListColumn> columns{};
+    // An up-down shows its value in a read-only text box of this name, made just before it.
+    std::string textBox{};
+    bool multiLine = false;
+    // A toolbar's buttons, set up when the page loads: SetupListToolbar and its like, in order.
+    std::vector<void (*)(shell::Toolbar&)> setups{};
+};
+
+// The width of a list that fills a page of this width.
+constexpr int FillWidth(int pageWidth) {
+    return pageWidth - 180 - 2 * 120;
+}
+
+// The control makers, as a page's declaration lists them.
+namespace decl {
+
+ControlDecl Label(std::string name, std::string caption);
+ControlDecl Toolbar(std::string name, std::vector<void (*)(shell::Toolbar&)> setups = {});
+ControlDecl Button(std::string name, std::string caption);
+ControlDecl Tooltip(std::string name);
+// A list bound to nothing: the page fills it.
+ControlDecl List(std::string name, int width, std::vector<ListColumn> columns = {},
+                 bool checkBoxes = false);
+// A check box bound to a flag.
+ControlDecl Check(std::string name, std::string key, std::string caption);
+// A text box bound to a value.
+ControlDecl Text(std::string name, std::string key, std::string caption = {});
+// A combo bound to a value picked from the field's choices.
+ControlDecl Combo(std::string name, std::string key, std::string caption = {});
+// An up-down bound to a number in the field's range, shown in the read-only box `textBox`.
+ControlDecl Spin(std::string textBox, std::string name, std::string key);
+// A profile check list: a row per profile, ticked from the sub-table `key`, one column of this
+// text as wide as the list less 350.
+ControlDecl ProfileChecks(std::string name, std::string key, std::string columnText, int width);
+// A check list of the named flags the file holds under `key`, as the file has them.
+ControlDecl FlagRows(std::string name, std::string key, int width, std::vector<ListColumn> columns);
+// A list of the rows of the list field `key`, with these columns: the row's text, then cells.
+ControlDecl Rows(std::string name, std::string key, int width, std::vector<ListColumn> columns);
+// A control bound to nothing whose change marks the page all the same.
+ControlDecl Marks(ControlDecl control);
+// The same control bound in another file of the page.
+ControlDecl In(const store::FileSchema& file, ControlDecl control);
+ControlDecl With(Quirks quirks, ControlDecl control);
+
+}  // namespace decl
+
+// ---- The row editor
+// ------------------------------------------------------------------------------
+
+// A message box the editor shows.
+struct Prompt {
+    std::string text;
+    std::string title;
+    Icon icon = Icon::Question;
+};
+
+// One use of an edit dialog. In captions, labels and the frame caption "{row}" stands for the
+// text of the row the dialog edits.
+struct RowDialogDecl {
+    DialogKind kind;
+    std::string caption;
+    std::vector<std::string> labels;
+    std::string frameCaption{};
+    int required = 0;
+    // The dialog's Add button. Off, the button can't be clicked, whatever the requirement code.
+    bool addButton = true;
+    std::vector<std::vector<std::string>> comboItems{};
+    std::vector<UpDownBounds> bounds{};
+};
+
+// Which row NEW's siblings act on.
+enum class RowTarget {
+    Selected,         // the selected row; nothing without one
+    SelectedOrFirst,  // the selected row, or the first, which the list has current
+};
+
+enum class ButtonRule {
+    FollowRows,  // DELETE and EDIT on while the list has rows
+    EditOnPick,  // EDIT off at each load, on once a row is picked
+    Fixed,       // as the toolbar was set up; only a limit turns NEW off
+};
+
+// A list edited through the edit dialogs: its toolbar's NEW, DELETE and EDIT, the pop-up
+// entries, a double click, and the rules of each page's list.
+struct RowEditorDecl {
+    std::string list;
+    std::string toolbar;
+    // The pop-up menu a right click shows ("mnuFirst") and the prefix of the page methods its
+    // entries call ("gMenuFirst": gMenuFirstAddClick, gMenuFirstDeleteClick, gMenuFirstEditClick).
+    std::string popup{};
+    std::string methods{};
+    // The list column each dialog field stands in: 1 is the row's text, 2 and on its cells.
+    std::vector<int> columns{1};
+    std::optional<RowDialogDecl> add{};
+    std::optional<RowDialogDecl> edit{};
+    // DELETE asks this first; without it the list has no DELETE.
+    std::optional<Prompt> confirmDelete{};
+    // A list at its floor refuses to lose a row, with this message.
+    int floor = 0;
+    Prompt floorPrompt{};
+    // A list at its limit takes no more rows: NEW turns off.
+    int limit = 0;
+    RowTarget target = RowTarget::SelectedOrFirst;
+    bool trimValues = false;  // the dialog shows the row's values without their blanks
+    bool selectFirstAfterDelete = false;
+    // How DELETE and EDIT are enabled.
+    ButtonRule buttons = ButtonRule::FollowRows;
+    // EDIT runs the page's own action (RowEditor::onEdit) instead of a dialog.
+    bool customEdit = false;
+};
+
+// ---- The page
+// ------------------------------------------------------------------------------------
+
+struct PageDecl {
+    std::string key;      // "Security~CommandSpy"
+    std::string caption;  // "Security ~ CommandSpy"
+    PageSize size;
+    std::optional<PageSize> minimum{};  // the size, where the page gives no other
+    // The files SAVE writes, in its order; a file's fields that no control is bound to aren't
+    // written by the page.
+    std::vector<const store::FileSchema*> files{};
+    std::vector<ControlDecl> controls{};
+    std::vector<RowEditorDecl> editors{};
+    // Where the controls stand, by name; without it, one below the other.
+    std::optional<Layout> layout{};
+    bool noRestore = false;
+    // A discard that leaves the page clean, as a load does.
+    bool discardClears = false;
+};
+
+// Whether the declaration holds together: each bound key in its file, with a control that fits
+// the field, every name once, every editor's list and toolbar declared. Throws std::logic_error
+// naming the page and what is wrong.
+void Validate(const PageDecl& decl);
+
+}  // namespace qb::shell

@@ -1,0 +1,54 @@
+#pragma once
+// One editor for every list whose rows are edited through the edit dialogs: NEW opens the add
+// dialog and goes on while the user clicks Add, EDIT opens the edit dialog on a row, DELETE asks
+// and removes one, each within the list's floor and limit, and the toolbar's buttons follow. The
+// page's declaration gives the words and rules; a page with more to do hooks in.
+
+#include <functional>
+#include <string>
+
+#include "shell/controls.h"
+#include "shell/host.h"
+#include "shell/page_decl.h"
+#include "store/table_files.h"
+
+namespace qb::shell {
+
+class RowEditor {
+  public:
+    RowEditor(const RowEditorDecl& decl, ListControl& list, Toolbar& toolbar, Host& host,
+              store::TableFiles& files, std::function<void()> markDirty);
+
+    const RowEditorDecl& Decl() const { return decl_; }
+    ListControl& List() const { return list_; }
+
+    void Add();
+    void Edit();
+    void Delete();
+    // After the list was filled by a load: the buttons as the rule has them for its rows.
+    void Loaded();
+    // The row the buttons act on, or 0 for none.
+    int Target() const;
+
+    // Hooks of a page with more to do.
+    // EDIT's own action, where the declaration says the page has one.
+    std::function<void(int row)> onEdit;
+    // Told after a dialog's fields went into a row, added or edited.
+    std::function<void(int row, bool added)> onStored;
+    // Told after a row went.
+    std::function<void()> onDeleted;
+
+  private:
+    DialogRequest Request(const RowDialogDecl& dialog, int row) const;
+    void Store(int row, const DialogResult& result);
+    void EnableRowButtons(bool enabled);
+
+    RowEditorDecl decl_;
+    ListControl& list_;
+    Toolbar& toolbar_;
+    Host& host_;
+    store::TableFiles& files_;
+    std::function<void()> markDirty_;
+};
+
+}  // namespace qb::shell
