@@ -48,13 +48,13 @@ struct UpDownBounds {
 // fields and may bar the Add button.
 struct DialogRequest {
     DialogKind kind = DialogKind::OneFields;
-    std::string caption;
-    std::string frameCaption;
-    std::vector<std::string> labels;
-    std::array<std::string, 4> values;
-    std::vector<std::vector<std::string>> comboItems;
-    std::vector<UpDownBounds> bounds;
-    std::string mode;  // "E" to edit a row, "A" to add rows
+    std::string caption{};
+    std::string frameCaption{};
+    std::vector<std::string> labels{};
+    std::array<std::string, 4> values{};
+    std::vector<std::vector<std::string>> comboItems{};
+    std::vector<UpDownBounds> bounds{};
+    std::string mode{};  // "E" to edit a row, "A" to add rows
     int required = 0;
     bool editableCombos = false;  // combos take typed text, not only their items
     // The Add button, where the page switches it off for this use (an edit of one row): off, it
