@@ -175,7 +175,11 @@ Page* Container::OpenTextEditor(const std::string& file, const std::string& mode
     if (Page* open = Find(kTextEditorKey)) {
         if (!Close(*open)) return nullptr;
     }
-    return &Adopt(MakeTextEditor(context_, file, mode));
+    // The page that asked is told of each save, and is active again when the editor closes.
+    editorOpener_ = active_ != nullptr ? active_->Key() : std::string();
+    return &Adopt(MakeTextEditor(context_, file, mode, [this, file] {
+        if (Page* opener = Find(editorOpener_)) opener->TextEditorSaved(file);
+    }));
 }
 
 Page& Container::Adopt(std::unique_ptr<Page> page) {
@@ -202,10 +206,16 @@ bool Container::Close(Page& page) {
         RebuildWindowsMenu();
     }
     const bool wasActive = active_ == &page;
+    const bool editor = page.Key() == kTextEditorKey;
     pages_.erase(at);
     if (wasActive) {
         active_ = nullptr;
-        if (!pages_.empty()) Activate(*pages_.back());
+        Page* opener = editor ? Find(editorOpener_) : nullptr;
+        if (opener != nullptr) {
+            Activate(*opener);
+        } else if (!pages_.empty()) {
+            Activate(*pages_.back());
+        }
     }
     return true;
 }

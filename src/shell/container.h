@@ -157,6 +157,7 @@ class Container {
     bool sideBarVisible_ = true;
     std::map<std::string, std::int16_t> groupCounters_;
     COpenWindows openWindows_;
+    std::string editorOpener_;  // the key of the page that opened the text editor
     std::vector<WindowsMenuItem> windowsMenu_;
 };
 

@@ -17,6 +17,7 @@ Page::Page(PageContext& context, const PageDecl& decl)
       minimum_(decl.minimum.value_or(decl.size)),
       noRestore_(decl.noRestore),
       discardClears_(decl.discardClears),
+      saveMakesFolders_(decl.saveMakesFolders),
       files_(decl.files) {
     tlbFormToolbar.onButtonClick = [this](const std::string& button) { FormToolbarClick(button); };
     MakeDeclared(decl);
@@ -196,8 +197,20 @@ std::string Page::BoundText(const store::FileSchema& file) const {
 }
 
 void Page::SaveSettings() {
-    for (const store::FileSchema* file : files_)
+    for (const store::FileSchema* file : files_) {
+        if (saveMakesFolders_) MakeFoldersOf(file->file);
         context_.files.WriteTextFile(file->file, BoundText(*file), file->inAppFolder);
+    }
+}
+
+void Page::MakeFoldersOf(std::string_view file) {
+    auto& files = context_.files;
+    std::string folder = files.SettingsFolder();
+    for (size_t from = 0, slash = file.find('\\'); slash != std::string_view::npos;
+         from = slash + 1, slash = file.find('\\', from)) {
+        folder += "\\" + std::string(file.substr(from, slash - from));
+        if (!files.FolderExists(folder)) files.CreateFolder(folder);
+    }
 }
 
 void Page::Reload() {

@@ -56,6 +56,9 @@ class Page {
     // Form_QueryUnload: true when the page may close. A dirty page asks first.
     bool QueryUnload();
 
+    // The text editor this page opened has saved `file`.
+    virtual void TextEditorSaved(const std::string& /*file*/) {}
+
     bool SaveRequired() const { return bSaveRequired; }
 
     // Controls in the order the page made them; the status bar is among them.
@@ -106,6 +109,8 @@ class Page {
     RowEditor& Editor(const std::string& list);
     // The file a bound control writes, as SAVE renders it from the bindings.
     std::string BoundText(const store::FileSchema& file) const;
+    // Makes the folders of a file below the settings folder where they are missing.
+    void MakeFoldersOf(std::string_view file);
     // LoadSettings with each file read once.
     void Reload();
     void SetBody(Layout body);
@@ -146,6 +151,7 @@ class Page {
     PageSize minimum_;
     bool noRestore_ = false;
     bool discardClears_ = false;
+    bool saveMakesFolders_ = false;
     Layout body_;
     std::map<std::string, std::function<void()>> menuMethods_;
     std::set<std::string> hiddenEntries_;

@@ -182,6 +182,8 @@ struct PageDecl {
     bool noRestore = false;
     // A discard that leaves the page clean, as a load does.
     bool discardClears = false;
+    // SAVE makes its files' folders where no builder has made them, rather than fail.
+    bool saveMakesFolders = false;
 };
 
 // Whether the declaration holds together: each bound key in its file, with a control that fits

@@ -5,7 +5,8 @@ namespace {
 
 class TextEditorPage : public Page {
   public:
-    TextEditorPage(PageContext& context, const std::string& file, const std::string& mode)
+    TextEditorPage(PageContext& context, const std::string& file, const std::string& mode,
+                   std::function<void()> saved)
         : Page(context, {.key = kTextEditorKey,
                          .caption = "Text Editor ~ " + file,
                          .size = {9000, 6075},
@@ -13,7 +14,8 @@ class TextEditorPage : public Page {
                          .discardClears = true}),
           txtPath(Add<TextBox>("txtPath")),
           txtTextBox(Add<TextBox>("txtTextBox", true)),
-          newFile_(mode == "N") {
+          newFile_(mode == "N"),
+          saved_(std::move(saved)) {
         txtPath.SetText(file);
         txtPath.SetVisible(false);
         txtTextBox.onChange = [this] { MarkDirty(); };
@@ -37,18 +39,20 @@ class TextEditorPage : public Page {
 
     void SaveSettings() override {
         context_.files.WriteTextFile(txtPath.Text(), txtTextBox.Text());
+        if (saved_) saved_();
     }
 
     TextBox& txtPath;
     TextBox& txtTextBox;
     bool newFile_;
+    std::function<void()> saved_;
 };
 
 }  // namespace
 
 std::unique_ptr<Page> MakeTextEditor(PageContext& context, const std::string& file,
-                                     const std::string& mode) {
-    return std::make_unique<TextEditorPage>(context, file, mode);
+                                     const std::string& mode, std::function<void()> saved) {
+    return std::make_unique<TextEditorPage>(context, file, mode, std::move(saved));
 }
 
 }  // namespace qb::shell

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 
 #include "shell/scripted_host.h"
@@ -210,6 +211,23 @@ TEST_F(ContainerTest, TheTextEditorIsNeitherListedNorForgotten) {
     EXPECT_EQ(container_->OpenWindows().Count(), 1);
     ASSERT_TRUE(container_->Close(*editor));
     EXPECT_EQ(container_->OpenWindows().Count(), 1);
+}
+
+// A page that opened the editor hears of each save, and is the active page again when the editor
+// closes, whichever page was opened last.
+TEST_F(ContainerTest, TheEditorTellsItsOpenerOfEachSaveAndGivesItTheFocusBack) {
+    StartWith({"General~Bots", "General~News"});
+    std::filesystem::create_directories(hub_.Settings() / "General");
+    Page* bots = container_->OpenFunctionPage("General~Bots");
+    container_->OpenFunctionPage("General~News");
+    container_->OpenFunctionPage("General~Bots");
+    Page* editor = container_->OpenTextEditor("General\\Note.txt", "N");
+    ASSERT_NE(editor, nullptr);
+    static_cast<TextBox*>(editor->Find("txtTextBox"))->UserSetText("x");
+    ASSERT_TRUE(static_cast<Toolbar*>(editor->Find("tlbFormToolbar"))->UserClick("SAVE"));
+    EXPECT_EQ(calls_, (std::vector<std::string>{"General~Bots:saved General\\Note.txt"}));
+    ASSERT_TRUE(container_->Close(*editor));
+    EXPECT_EQ(container_->Active(), bots);
 }
 
 TEST_F(ContainerTest, SideBarAndNodeButtons) {

@@ -13,7 +13,8 @@ class StubPage : public shell::Page {
                {.key = desc.key,
                 .caption = desc.caption.empty() ? shell::CaptionOfKey(desc.key) : desc.caption,
                 .size = {3400, 6075}}),
-          lvwRows(Add<shell::ListControl>("lvwRows")) {
+          lvwRows(Add<shell::ListControl>("lvwRows")),
+          calls_(calls) {
         for (const auto& method : desc.methods) {
             PublishMenuMethod(
                 method, [&calls, key = desc.key, method] { calls.push_back(key + ":" + method); });
@@ -30,8 +31,12 @@ class StubPage : public shell::Page {
     }
     void RestoreDefaults() override {}
     void SaveSettings() override {}
+    void TextEditorSaved(const std::string& file) override {
+        calls_.push_back(Key() + ":saved " + file);
+    }
 
     shell::ListControl& lvwRows;
+    std::vector<std::string>& calls_;
 };
 
 }  // namespace

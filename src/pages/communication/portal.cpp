@@ -176,20 +176,11 @@ class frmCommunicationPortal : public Page, private hublink::PortalValues {
             text.Row(2, row, "\"" + lvwNicks.Cell(row, 2) + "\"");
         }
         text.Close(1);
-        // The scripts read the table without its closing brace, and the file has never had one.
-        MakePortalFolder();
+        // No builder makes the portal's folder, so a fresh settings tree lacks it; a save makes
+        // it rather than fail on the user's typing. The scripts read the table without its
+        // closing brace, and the file has never had one.
+        MakeFoldersOf(kPortalFile);
         context_.files.WriteTextFile(kPortalFile, text.Text());
-    }
-
-    // No builder makes the portal's folder, so a fresh settings tree lacks it; a save makes it
-    // rather than fail on the user's typing.
-    void MakePortalFolder() {
-        auto& files = context_.files;
-        std::string folder = files.SettingsFolder();
-        for (const char* part : {"\\Communication", "\\Portal"}) {
-            folder += part;
-            if (!files.FolderExists(folder)) files.CreateFolder(folder);
-        }
     }
 
     bool HasNick(std::string_view nick) const {
