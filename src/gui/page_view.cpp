@@ -258,8 +258,10 @@ QLayout* PageView::BuildLayout(const shell::Layout& layout) {
                 break;
             case Type::Item: {
                 QWidget* widget = Build(*item.control);
+                // Lists and many-line texts take the room; a one-line box keeps its height.
                 const bool grows = item.control->Kind() == ControlKind::List ||
-                                   item.control->Kind() == ControlKind::Text;
+                                   (item.control->Kind() == ControlKind::Text &&
+                                    static_cast<const shell::TextBox&>(*item.control).MultiLine());
                 box->addWidget(widget, item.weight > 0 ? item.weight : grows ? 1 : 0);
                 break;
             }
