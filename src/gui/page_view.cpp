@@ -43,6 +43,7 @@ int Pixels(int twips) {
 void SyncCommon(const shell::Control& control, QWidget* widget) {
     widget->setEnabled(control.Enabled());
     widget->setVisible(control.Visible());
+    widget->setToolTip(ToQt(control.Tip()));
 }
 
 class ListBinding : public QTreeView {

@@ -22,6 +22,11 @@ void Control::SetCaption(std::string caption) {
     Changed();
 }
 
+void Control::SetTip(std::string tip) {
+    tip_ = std::move(tip);
+    Changed();
+}
+
 // ---- ListControl ----------------------------------------------------------------------------
 
 void ListControl::CheckIndex(int index) const {

@@ -46,6 +46,7 @@ void Page::MakeDeclared(const PageDecl& decl) {
             made = owned.get();
             controls_.push_back(std::move(owned));
         }
+        if (!control.tip.empty()) made->SetTip(control.tip);
         if (control.kind == ControlKind::Toolbar && !control.setups.empty()) {
             toolbarSetups_.push_back({static_cast<Toolbar*>(made), control.setups});
         }
@@ -74,7 +75,9 @@ void Page::MakeDeclared(const PageDecl& decl) {
             list.onRightClick = [this, popup = editor.popup](int) { ShowPopupMenu(popup); };
         }
         if (editor.methods.empty()) continue;
-        if (editor.add) PublishMenuMethod(editor.methods + "AddClick", [&made] { made.Add(); });
+        if (editor.add || editor.customAdd) {
+            PublishMenuMethod(editor.methods + "AddClick", [&made] { made.Add(); });
+        }
         if (editor.confirmDelete) {
             PublishMenuMethod(editor.methods + "DeleteClick", [&made] { made.Delete(); });
         }
