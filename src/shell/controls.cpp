@@ -156,6 +156,12 @@ bool ListControl::UserRightClick(int index) {
     return true;
 }
 
+bool ListControl::UserKeyDown(int keyCode) {
+    if (!Enabled()) return false;
+    if (onKeyDown) onKeyDown(keyCode);
+    return true;
+}
+
 // ---- Toolbar --------------------------------------------------------------------------------
 
 void Toolbar::AddButton(std::string key, std::string tip, std::string image) {

@@ -122,12 +122,15 @@ class ListControl : public Control {
     std::function<void(int row)> onItemClick;
     std::function<void(int row)> onDoubleClick;
     std::function<void(int row)> onRightClick;
+    // A key pressed while the list has the focus, by its key code (46 is Delete).
+    std::function<void(int keyCode)> onKeyDown;
 
     // What the user does. False when the user can't: the list is disabled or has no such row.
     bool UserCheck(int index, bool checked);
     bool UserSelect(int index);
     bool UserDoubleClick(int index);
     bool UserRightClick(int index);
+    bool UserKeyDown(int keyCode);
 
     // Fine-grained notice for front ends that show thousands of rows: rows first to last changed
     // in place. Any other change (rows added, removed, columns) goes through the plain listener.

@@ -5,6 +5,11 @@
 #include "shell/page_frame.h"
 
 namespace qb::shell {
+namespace {
+
+constexpr int kDeleteKey = 46;
+
+}  // namespace
 
 Page::Page(PageContext& context, const PageDecl& decl)
     : context_(context),
@@ -71,6 +76,11 @@ void Page::MakeDeclared(const PageDecl& decl) {
             if (key == "EDIT") made.Edit();
         };
         list.onDoubleClick = [&made](int) { made.Edit(); };
+        if (editor.deleteKey) {
+            list.onKeyDown = [&made](int keyCode) {
+                if (keyCode == kDeleteKey) made.Delete();
+            };
+        }
         if (!editor.popup.empty()) {
             list.onRightClick = [this, popup = editor.popup](int) { ShowPopupMenu(popup); };
         }

@@ -167,6 +167,8 @@ struct RowEditorDecl {
     bool customEdit = false;
     // NEW runs the page's own action (RowEditor::onAdd) instead of the add loop.
     bool customAdd = false;
+    // The Delete key on the list is DELETE.
+    bool deleteKey = false;
 };
 
 // ---- The page

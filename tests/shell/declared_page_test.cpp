@@ -189,8 +189,8 @@ TEST_F(DeclaredPage, TheRowEditorAddsUpToItsLimitEditsAndKeepsItsFloor) {
               std::string::npos);
 }
 
-// A list whose NEW is the page's own, and a delete the page hears of before the row goes;
-// right clicks start past Unregistered.
+// A list whose NEW is the page's own, and a delete (by the toolbar or the Delete key) the page
+// hears of before the row goes; right clicks start past Unregistered.
 const store::FileSchema& Pictures() {
     static const store::FileSchema file{
         .file = "T\\Pictures.tbl",
@@ -220,7 +220,8 @@ class PicturesPage : public Page {
                          .popup = "mnuUserActions",
                          .methods = "gMenu",
                          .confirmDelete = Prompt{"Delete it?", "Delete"},
-                         .customAdd = true}}};
+                         .customAdd = true,
+                         .deleteKey = true}}};
         return page;
     }
     explicit PicturesPage(PageContext& context) : Page(context, Decl()) {
@@ -254,8 +255,10 @@ TEST_F(DeclaredPage, APageMayOwnNewHearOfADeleteAndStartItsProfileRowsLater) {
     host.QueueAnswer(Answer::Cancel);
     ASSERT_TRUE(toolbar.UserClick("DELETE"));
     EXPECT_EQ(pictures.removing, "");
+    // Only the Delete key deletes.
+    ASSERT_TRUE(names.UserKeyDown(13));
     host.QueueAnswer(Answer::OK);
-    ASSERT_TRUE(toolbar.UserClick("DELETE"));
+    ASSERT_TRUE(names.UserKeyDown(46));
     EXPECT_EQ(pictures.removing, "dog");
     EXPECT_EQ(names.Count(), 1);
 
