@@ -74,7 +74,8 @@ class frmUserActionsAscii : public shell::Page {
                                                   .labels = {"Display Name", "Right Click Menu"}},
                          .confirmDelete = shell::Prompt{"Do you really want to delete this Ascii?",
                                                         "Delete Ascii?"},
-                         .customAdd = true}},
+                         .customAdd = true,
+                         .deleteKey = true}},
             .layout = shell::Column(
                 {shell::Row({shell::Item("chkCheckBox(0)"), shell::Item("chkCheckBox(1)"),
                              shell::Item("chkCheckBox(2)"), shell::Stretch()}),

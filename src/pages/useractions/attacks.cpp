@@ -32,7 +32,8 @@ const ListPageParts& Attacks() {
                     .columns = {{"column1", "Attack", 6000}},
                     .words = IntroWords("Add Attack", {"Attack"}, "Edit Attack", "Delete Intro?"),
                     .restore = RestoreRows::Empty,
-                    .sample = {{"", "*** !username! blows !victim!'s brains out"}}}}});
+                    .sample = {{"", "*** !username! blows !victim!'s brains out"}},
+                    .deleteKey = true}}});
 }
 
 // Rows are read back split at every "=": an action holding one loses what follows it.
@@ -52,7 +53,8 @@ const ListPageParts& DoAction() {
                     .keyed = true,
                     .restore = RestoreRows::Empty,
                     .sample = {{"beer", "*** !username! drinks an ice cold beer"}},
-                    .trimValues = true}}});
+                    .trimValues = true,
+                    .deleteKey = true}}});
 }
 
 }  // namespace

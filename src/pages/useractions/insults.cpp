@@ -26,7 +26,8 @@ StringList WordList(int index, ListWords words, std::string sample) {
             .restore = RestoreRows::Empty,
             .sample = {{"", std::move(sample)}},
             .popup = std::string("mnu") + kMenus[index],
-            .methods = std::string("gMenu") + kMenus[index]};
+            .methods = std::string("gMenu") + kMenus[index],
+            .deleteKey = true};
 }
 
 const ListPageParts& Standard() {
@@ -44,7 +45,8 @@ const ListPageParts& Standard() {
                     .restore = RestoreRows::Empty,
                     .sample = {{"",
                                 "*** !username! Says 'People can't say that !victim! has "
-                                "absolutely nothing! After all, they have inferiority!'"}}}}});
+                                "absolutely nothing! After all, they have inferiority!'"}},
+                    .deleteKey = true}}});
 }
 
 const ListPageParts& Medieval() {

@@ -57,7 +57,8 @@ shell::RowEditorDecl ListEditor(const StringList& list) {
             .floor = list.floor,
             .floorPrompt = list.words.floor,
             .trimValues = list.trimValues,
-            .selectFirstAfterDelete = list.selectFirstAfterDelete};
+            .selectFirstAfterDelete = list.selectFirstAfterDelete,
+            .deleteKey = list.deleteKey};
 }
 
 shell::Layout ListLayout(const StringList& list) {

@@ -51,6 +51,7 @@ struct StringList {
     std::string methods = "gMenu";
     bool selectFirstAfterDelete = false;
     bool trimValues = false;  // the edit dialog shows the row's values without their blanks
+    bool deleteKey = false;   // the Delete key on the list deletes the row
 };
 
 // The field a list is bound to.

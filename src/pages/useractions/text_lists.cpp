@@ -88,7 +88,8 @@ StringList ListOf(const TextList& member) {
             .columns = {{"column1", member.plural, 6000}},
             .words = WordsOf(member.noun),
             .sample = {{"", member.sample}},
-            .selectFirstAfterDelete = true};
+            .selectFirstAfterDelete = true,
+            .deleteKey = true};
 }
 
 // The page of a member: its settings above its list. The jokes' page of this kind has no node in
