@@ -38,8 +38,7 @@ const SpellFunction& NickSpellsFunction() {
 // ---- The book
 // ---------------------------------------------------------------------------------------
 
-// Columns of lvwSpells: the name is the row's text.
-constexpr int kDescription = 2;
+// Columns of lvwSpells: the name is the row's text, the description column 2.
 constexpr int kPhrases = 3;  // each phrase with a "|" after it, held until SAVE
 constexpr int kLines = 4;
 
