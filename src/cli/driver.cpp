@@ -207,6 +207,10 @@ void Driver::Execute(const std::vector<std::string>& words) {
                           : action == "dblclick" ? list.UserDoubleClick(row)
                                                  : list.UserRightClick(row);
         Refused(done, action + " row " + words[2] + " of " + words[1]);
+    } else if (action == "key") {
+        Need(words, 3, 3, "key CONTROL CODE");
+        auto& list = As<shell::ListControl>(ControlOf(words[1]), ControlKind::List, "list");
+        Refused(list.UserKeyDown(ParseNumber(words[2], "CODE")), "press a key on " + words[1]);
     } else if (action == "set") {
         Need(words, 3, 3, "set CONTROL VALUE");
         shell::Control& control = ControlOf(words[1]);

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -43,6 +44,7 @@ int Pixels(int twips) {
 void SyncCommon(const shell::Control& control, QWidget* widget) {
     widget->setEnabled(control.Enabled());
     widget->setVisible(control.Visible());
+    widget->setToolTip(ToQt(control.Tip()));
 }
 
 class ListBinding : public QTreeView {
@@ -87,6 +89,15 @@ class ListBinding : public QTreeView {
     }
 
   protected:
+    // The pages know a key by the code the scripts' home system gives it: Delete is 46.
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Delete) {
+            Guard([&] { list_.UserKeyDown(46); });
+            return;
+        }
+        QTreeView::keyPressEvent(event);
+    }
+
     // A list that gets the focus makes its first row current; that is no click of the user's.
     void focusInEvent(QFocusEvent* event) override {
         following_ = true;

@@ -5,6 +5,7 @@
 #include "pages/general/general.h"
 #include "pages/language/language.h"
 #include "pages/security/security.h"
+#include "pages/useractions/useractions.h"
 
 namespace qb::pages {
 
@@ -13,6 +14,7 @@ void RegisterAllPages(shell::PageRegistry& registry, const PageServices& service
     RegisterLanguagePages(registry);
     RegisterCommunicationPages(registry, services);
     RegisterSecurityPages(registry);
+    RegisterUserActionPages(registry);
     RegisterArchivePages(registry);
 }
 
@@ -20,6 +22,7 @@ void RegisterAllBuilders(store::BuilderRegistry& builders) {
     RegisterGeneralBuilders(builders);
     RegisterCommunicationBuilders(builders);
     RegisterSecurityBuilders(builders);
+    RegisterUserActionBuilders(builders);
 }
 
 }  // namespace qb::pages

@@ -161,12 +161,14 @@ class ProfileChecksBinding : public Binding {
                          ListControl& list)
         : Binding(file, field, field.key), list_(list) {}
     void Load(store::TableFiles& files, const store::ProfileList& profiles) override {
-        LoadProfileChecks(list_, files, profiles, File().file, Key());
+        LoadProfileChecks(list_, files, profiles, File().file, Key(), Field().firstProfile);
     }
     void Restore(const store::ProfileList& profiles) override {
-        ResetProfileChecks(list_, profiles);
+        ResetProfileChecks(list_, profiles, Field().firstProfile);
     }
-    std::string Value(int profile) const override { return ProfileCheckValue(list_, profile); }
+    std::string Value(int profile) const override {
+        return ProfileCheckValue(list_, profile, Field().firstProfile);
+    }
 
   private:
     ListControl& list_;

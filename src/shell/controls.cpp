@@ -22,6 +22,11 @@ void Control::SetCaption(std::string caption) {
     Changed();
 }
 
+void Control::SetTip(std::string tip) {
+    tip_ = std::move(tip);
+    Changed();
+}
+
 // ---- ListControl ----------------------------------------------------------------------------
 
 void ListControl::CheckIndex(int index) const {
@@ -148,6 +153,12 @@ bool ListControl::UserRightClick(int index) {
     if (!Enabled() || index < 1 || index > Count()) return false;
     Select(index);
     if (onRightClick) onRightClick(index);
+    return true;
+}
+
+bool ListControl::UserKeyDown(int keyCode) {
+    if (!Enabled()) return false;
+    if (onKeyDown) onKeyDown(keyCode);
     return true;
 }
 

@@ -42,6 +42,9 @@ class Control {
     // The text beside or on the control: a label's or frame's caption, a check box's text.
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string caption);
+    // The tip the window shows while the pointer rests on the control.
+    const std::string& Tip() const { return tip_; }
+    void SetTip(std::string tip);
 
     // The front end showing the control; told after every change made in code or by the user.
     void SetListener(std::function<void()> listener) { listener_ = std::move(listener); }
@@ -55,6 +58,7 @@ class Control {
     ControlKind kind_;
     std::string name_;
     std::string caption_;
+    std::string tip_;
     bool enabled_ = true;
     bool visible_ = true;
     std::function<void()> listener_;
@@ -118,12 +122,15 @@ class ListControl : public Control {
     std::function<void(int row)> onItemClick;
     std::function<void(int row)> onDoubleClick;
     std::function<void(int row)> onRightClick;
+    // A key pressed while the list has the focus, by its key code (46 is Delete).
+    std::function<void(int keyCode)> onKeyDown;
 
     // What the user does. False when the user can't: the list is disabled or has no such row.
     bool UserCheck(int index, bool checked);
     bool UserSelect(int index);
     bool UserDoubleClick(int index);
     bool UserRightClick(int index);
+    bool UserKeyDown(int keyCode);
 
     // Fine-grained notice for front ends that show thousands of rows: rows first to last changed
     // in place. Any other change (rows added, removed, columns) goes through the plain listener.

@@ -5,6 +5,11 @@
 #include "shell/page_frame.h"
 
 namespace qb::shell {
+namespace {
+
+constexpr int kDeleteKey = 46;
+
+}  // namespace
 
 Page::Page(PageContext& context, const PageDecl& decl)
     : context_(context),
@@ -46,6 +51,7 @@ void Page::MakeDeclared(const PageDecl& decl) {
             made = owned.get();
             controls_.push_back(std::move(owned));
         }
+        if (!control.tip.empty()) made->SetTip(control.tip);
         if (control.kind == ControlKind::Toolbar && !control.setups.empty()) {
             toolbarSetups_.push_back({static_cast<Toolbar*>(made), control.setups});
         }
@@ -70,11 +76,18 @@ void Page::MakeDeclared(const PageDecl& decl) {
             if (key == "EDIT") made.Edit();
         };
         list.onDoubleClick = [&made](int) { made.Edit(); };
+        if (editor.deleteKey) {
+            list.onKeyDown = [&made](int keyCode) {
+                if (keyCode == kDeleteKey) made.Delete();
+            };
+        }
         if (!editor.popup.empty()) {
             list.onRightClick = [this, popup = editor.popup](int) { ShowPopupMenu(popup); };
         }
         if (editor.methods.empty()) continue;
-        if (editor.add) PublishMenuMethod(editor.methods + "AddClick", [&made] { made.Add(); });
+        if (editor.add || editor.customAdd) {
+            PublishMenuMethod(editor.methods + "AddClick", [&made] { made.Add(); });
+        }
         if (editor.confirmDelete) {
             PublishMenuMethod(editor.methods + "DeleteClick", [&made] { made.Delete(); });
         }

@@ -102,6 +102,11 @@ ControlDecl With(Quirks quirks, ControlDecl control) {
     return control;
 }
 
+ControlDecl Tipped(std::string tip, ControlDecl control) {
+    control.tip = std::move(tip);
+    return control;
+}
+
 }  // namespace decl
 
 namespace {

@@ -50,6 +50,7 @@ struct ControlDecl {
     const store::FileSchema* file = nullptr;
     Quirks quirks{};
     bool marksOnly = false;  // unbound, yet a change of it marks the page
+    std::string tip{};       // shown while the pointer rests on the control
     // A list's look: check boxes, width in twips, columns.
     bool checkBoxes = false;
     int width = 0;
@@ -96,6 +97,8 @@ ControlDecl Marks(ControlDecl control);
 // The same control bound in another file of the page.
 ControlDecl In(const store::FileSchema& file, ControlDecl control);
 ControlDecl With(Quirks quirks, ControlDecl control);
+// The same control with a tip the window shows over it.
+ControlDecl Tipped(std::string tip, ControlDecl control);
 
 }  // namespace decl
 
@@ -162,6 +165,10 @@ struct RowEditorDecl {
     ButtonRule buttons = ButtonRule::FollowRows;
     // EDIT runs the page's own action (RowEditor::onEdit) instead of a dialog.
     bool customEdit = false;
+    // NEW runs the page's own action (RowEditor::onAdd) instead of the add loop.
+    bool customAdd = false;
+    // The Delete key on the list is DELETE.
+    bool deleteKey = false;
 };
 
 // ---- The page

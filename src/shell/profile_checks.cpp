@@ -15,25 +15,26 @@ void LoadProfileChecks(ListControl& list, const PageContext& context, std::strin
 
 void LoadProfileChecks(ListControl& list, store::TableFiles& files,
                        const store::ProfileList& profiles, std::string_view file,
-                       std::string_view subTable) {
+                       std::string_view subTable, int first) {
     list.Clear();
-    for (int number = -1; number <= profiles.LastNumber(); ++number) {
-        list.Add(number + 2, std::to_string(number) + "ID", profiles.Text(number + 2));
+    for (int number = first; number <= profiles.LastNumber(); ++number) {
+        const int row = number - first + 1;
+        list.Add(row, std::to_string(number) + "ID", profiles.Text(number + 2));
         const std::string value =
             files.ReadTableValue(file, std::to_string(number), subTable, false);
-        list.SetChecked(number + 2, store::IsNumericallyOne(value.empty() ? "0" : value));
+        list.SetChecked(row, store::IsNumericallyOne(value.empty() ? "0" : value));
     }
 }
 
-void ResetProfileChecks(ListControl& list, const store::ProfileList& profiles) {
+void ResetProfileChecks(ListControl& list, const store::ProfileList& profiles, int first) {
     list.Clear();
-    for (int number = -1; number <= profiles.LastNumber(); ++number) {
-        list.Add(number + 2, std::to_string(number) + "ID", profiles.Text(number + 2));
+    for (int number = first; number <= profiles.LastNumber(); ++number) {
+        list.Add(number - first + 1, std::to_string(number) + "ID", profiles.Text(number + 2));
     }
 }
 
-std::string ProfileCheckValue(const ListControl& list, int profile) {
-    return list.Row(profile + 2).checked ? "1" : "0";
+std::string ProfileCheckValue(const ListControl& list, int profile, int first) {
+    return list.Row(profile - first + 1).checked ? "1" : "0";
 }
 
 }  // namespace qb::shell

@@ -16,17 +16,19 @@ namespace qb::shell {
 void AddProfileColumn(ListControl& list, std::string text);
 
 // A row per profile, key "<number>ID", text the profile's name, ticked exactly when the file's
-// value for the number is numerically 1. A missing file or key reads as 0.
+// value for the number is numerically 1. A missing file or key reads as 0. A list whose rows start
+// at a later number than -1 leaves the profiles before it out.
 void LoadProfileChecks(ListControl& list, store::TableFiles& files,
                        const store::ProfileList& profiles, std::string_view file,
-                       std::string_view subTable);
+                       std::string_view subTable, int first = -1);
 void LoadProfileChecks(ListControl& list, const PageContext& context, std::string_view file,
                        std::string_view subTable);
 
 // The same rows, all unticked, for RestoreDefaults.
-void ResetProfileChecks(ListControl& list, const store::ProfileList& profiles);
+void ResetProfileChecks(ListControl& list, const store::ProfileList& profiles, int first = -1);
 
-// The value a row saves: "1" when ticked, else "0". `profile` is the row's profile number.
-std::string ProfileCheckValue(const ListControl& list, int profile);
+// The value a row saves: "1" when ticked, else "0". `profile` is the row's profile number, and
+// `first` that of the list's first row.
+std::string ProfileCheckValue(const ListControl& list, int profile, int first = -1);
 
 }  // namespace qb::shell

@@ -98,6 +98,10 @@ void RowEditor::Loaded() {
 }
 
 void RowEditor::Add() {
+    if (decl_.customAdd) {
+        if (onAdd) onAdd();
+        return;
+    }
     if (!decl_.add) return;
     if (decl_.limit != 0 && list_.Count() >= decl_.limit) return;
     for (;;) {
@@ -153,6 +157,7 @@ void RowEditor::Delete() {
         Answer::OK) {
         return;
     }
+    if (onRemoving) onRemoving(row);
     list_.Remove(row);
     if (decl_.selectFirstAfterDelete) list_.Select(list_.Count() > 0 ? 1 : 0);
     if (decl_.buttons == ButtonRule::FollowRows && list_.Count() == 0) EnableRowButtons(false);

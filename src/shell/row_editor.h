@@ -33,6 +33,10 @@ class RowEditor {
     // Hooks of a page with more to do.
     // EDIT's own action, where the declaration says the page has one.
     std::function<void(int row)> onEdit;
+    // NEW's own action, where the declaration says the page has one.
+    std::function<void()> onAdd;
+    // Told when the user has confirmed a delete, before the row goes.
+    std::function<void(int row)> onRemoving;
     // Told after a dialog's fields went into a row, added or edited.
     std::function<void(int row, bool added)> onStored;
     // Told after a row went.

@@ -65,7 +65,9 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
     switch (schema.kind) {
         case FileKind::Data:
             if (run.files.FileExists(path)) return;
-            text = Write(schema, run, byDefault);
+            // A new list holds its sample rows, where it has any.
+            text =
+                Write(schema, run, byDefault, [](const Field& field) { return field.defaultRows; });
             break;
         case FileKind::Reset:
             text = Write(schema, run, byDefault);

@@ -31,7 +31,8 @@ std::vector<const Field*> InOrder(const FileSchema& schema, const WriterForm& fo
 
 // One row of a list at `depth`.
 void ListRow(TableText& text, const Field& field, int depth, int number, const ListEntry& entry) {
-    const std::string value = field.quotedRows ? "\"" + entry.value + "\"" : entry.value;
+    const std::string& raw = field.rowValue ? *field.rowValue : entry.value;
+    const std::string value = field.quotedRows ? "\"" + raw + "\"" : raw;
     switch (field.rowForm) {
         case RowForm::Bare:
             text.Line(depth, value + ",");
@@ -55,6 +56,7 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
         if (keep && !keep(*field)) continue;
         const auto custom = form.lines.find(field->key);
         const LineForm line = custom == form.lines.end() ? LineForm{} : custom->second;
+        const std::string& key = line.name.empty() ? field->key : line.name;
         switch (field->kind) {
             case FieldKind::Flag:
             case FieldKind::Number:
@@ -62,21 +64,21 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
                 const bool quoted = line.quoted.value_or(field->kind == FieldKind::String);
                 const std::string value = valueOf(*field, 0);
                 if (quoted) {
-                    text.Quoted(line.depth, field->key, value);
+                    text.Quoted(line.depth, key, value);
                 } else {
-                    text.Bare(line.depth, field->key, value);
+                    text.Bare(line.depth, key, value);
                 }
                 break;
             }
             case FieldKind::ProfileChecks:
-                text.Open(line.depth, field->key);
-                for (int profile = -1; profile <= lastProfile; ++profile) {
+                text.Open(line.depth, key);
+                for (int profile = field->firstProfile; profile <= lastProfile; ++profile) {
                     text.Row(line.rowDepth, profile, valueOf(*field, profile));
                 }
                 text.Close(line.depth);
                 break;
             case FieldKind::NamedFlags:
-                text.Open(line.depth, field->key);
+                text.Open(line.depth, key);
                 for (size_t row = 0; row < field->rows.size(); ++row) {
                     text.Bare(line.rowDepth, field->rows[row],
                               valueOf(*field, static_cast<int>(row)));
@@ -86,7 +88,7 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
             case FieldKind::Rows: {
                 // The rows of the file's own table stand at its depth, with nothing around them.
                 const bool own = field->key == schema.table;
-                if (!own) text.Open(line.depth, field->key);
+                if (!own) text.Open(line.depth, key);
                 const std::vector<ListEntry> rows =
                     rowsOf ? rowsOf(*field) : std::vector<ListEntry>{};
                 for (size_t row = 0; row < rows.size(); ++row) {

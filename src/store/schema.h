@@ -67,7 +67,13 @@ struct Field {
     // The rows of a list: their form, and whether a value is written in quotes.
     RowForm rowForm = RowForm::Bare;
     bool quotedRows = true;
-    std::vector<ListEntry> defaultRows{};  // the rows RESTORE puts in, where it refills a list
+    // The rows RESTORE puts in, where it refills a list, and those a new data file is written
+    // with.
+    std::vector<ListEntry> defaultRows{};
+    // Every named row is written with this value, which no list shows ("["Nick"] = 1,").
+    std::optional<std::string> rowValue{};
+    // Profile checks whose rows start at this number, not at -1 (Unregistered has no row).
+    int firstProfile = -1;
 };
 
 // What a rebuild does to a file that exists already.
@@ -82,9 +88,10 @@ enum class Writer { Page, Builder };
 
 // How one line is laid out where a writer departs from the common form.
 struct LineForm {
-    int depth = 1;               // tabs before the key's line
-    int rowDepth = 2;            // tabs before a sub-table's rows
-    std::optional<bool> quoted;  // a string key written bare, or a number quoted
+    int depth = 1;                 // tabs before the key's line
+    int rowDepth = 2;              // tabs before a sub-table's rows
+    std::optional<bool> quoted{};  // a string key written bare, or a number quoted
+    std::string name{};            // the key written in place of the field's own
 };
 
 // A writer's own layout of the file; the default is the common form of every field.

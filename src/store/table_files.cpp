@@ -307,6 +307,14 @@ void TableFiles::CreateFolder(std::string_view path) {
     natives_.clear();
 }
 
+void TableFiles::DeleteFile(std::string_view path) {
+    const auto native = ToNativePath(path);
+    if (!native) throw FatalError(std::string(path), "not a path on a drive");
+    const std::string shown = native->string();
+    Forget(shown);
+    if (::unlink(native->c_str()) != 0 && errno != ENOENT) throw FatalError(shown, Reason(errno));
+}
+
 double TableFiles::NextRandom() {
     const auto span = static_cast<double>(random_.max() - random_.min()) + 1.0;
     return static_cast<double>(random_() - random_.min()) / span;

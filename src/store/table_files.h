@@ -95,6 +95,9 @@ class TableFiles {
     bool FileExists(std::string_view path) const;
     bool FolderExists(std::string_view path) const;
     void CreateFolder(std::string_view path);  // FatalError when it can't be made
+    // Deletes a file at once. A file that is already gone is no error; one that can't be
+    // deleted is fatal.
+    void DeleteFile(std::string_view path);
 
     // Whether a read past line 5000 of ReadTextFile has left the file slot taken.
     bool SlotStuck() const { return slotStuck_; }

@@ -38,6 +38,14 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"General~RightClicks",
          "the language sets come with the script pack; no rebuild writes "
          "their index, and the page's save makes it"},
+        {"UserActions~Quotations", "the builder puts the delay between the two flags"},
+        {"UserActions~Proverbs", "the builder puts the delay between the two flags"},
+        {"UserActions~Limericks", "the builder puts the delay between the two flags"},
+        {"UserActions~Jokes", "the builder puts the delay between the two flags"},
+        {"UserActions~Jokes~Settings", "the builder puts the delay between the two flags"},
+        {"UserActions~Spells~Settings", "the builder writes the delay before the wards flag"},
+        {"UserActions~Insults~Medieval",
+         "the builder names the third list tThreee, the page tThree"},
     };
     return pages;
 }
@@ -57,6 +65,11 @@ const std::map<std::string, std::string>& RestoreDiffers() {
          "RESTORE ticks every row, the two functions that are off by default too"},
         {"General~EnableRightClicks",
          "RESTORE ticks every row, the two functions that are off by default too"},
+        {"UserActions~Insults~Standard", "RESTORE empties the list the rebuild gave a sample"},
+        {"UserActions~Insults~Modern",
+         "RESTORE empties three of the lists the rebuild gave a sample"},
+        {"UserActions~Attacks", "RESTORE empties the list the rebuild gave a sample"},
+        {"UserActions~DoAction", "RESTORE empties the list the rebuild gave a sample"},
     };
     return pages;
 }

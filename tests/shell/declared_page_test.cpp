@@ -189,6 +189,85 @@ TEST_F(DeclaredPage, TheRowEditorAddsUpToItsLimitEditsAndKeepsItsFloor) {
               std::string::npos);
 }
 
+// A list whose NEW is the page's own, and a delete (by the toolbar or the Delete key) the page
+// hears of before the row goes; right clicks start past Unregistered.
+const store::FileSchema& Pictures() {
+    static const store::FileSchema file{
+        .file = "T\\Pictures.tbl",
+        .table = "tPictures",
+        .fields = {{.kind = FieldKind::ProfileChecks,
+                    .key = "tEnabledRC",
+                    .defaultValue = "0",
+                    .firstProfile = 0},
+                   {.kind = FieldKind::Rows, .key = "tNames", .defaultValue = ""}}};
+    return file;
+}
+
+class PicturesPage : public Page {
+  public:
+    static const PageDecl& Decl() {
+        using namespace decl;
+        static const PageDecl page{
+            .key = "T~Pictures",
+            .caption = "T ~ Pictures",
+            .size = {3400, 6075},
+            .files = {&Pictures()},
+            .controls = {ProfileChecks("lvwEnabledRCs", "tEnabledRC", "Right Clicks", 3000),
+                         decl::Toolbar("tlbNames", {SetupListToolbar}),
+                         Rows("lvwNames", "tNames", 3000, {{"column1", "Names", 2600}})},
+            .editors = {{.list = "lvwNames",
+                         .toolbar = "tlbNames",
+                         .popup = "mnuUserActions",
+                         .methods = "gMenu",
+                         .confirmDelete = Prompt{"Delete it?", "Delete"},
+                         .customAdd = true,
+                         .deleteKey = true}}};
+        return page;
+    }
+    explicit PicturesPage(PageContext& context) : Page(context, Decl()) {
+        Editor("lvwNames").onAdd = [this] { ++adds; };
+        Editor("lvwNames").onRemoving = [this](int row) {
+            removing = Get<ListControl>("lvwNames").Row(row).text;
+        };
+    }
+    int adds = 0;
+    std::string removing;
+};
+
+TEST_F(DeclaredPage, APageMayOwnNewHearOfADeleteAndStartItsProfileRowsLater) {
+    hub.WriteSetting("T/Pictures.tbl",
+                     Crlf({"tPictures = {", "\ttEnabledRC = {", "\t\t[-1] = 1,", "\t\t[0] = 1,",
+                           "\t},", "\ttNames = {", "\t\t\"cat\",", "\t\t\"dog\",", "\t},", "}"}));
+    PicturesPage pictures(context);
+    pictures.Load();
+    const auto& rcs = static_cast<ListControl&>(*pictures.Find("lvwEnabledRCs"));
+    ASSERT_EQ(rcs.Count(), 1);
+    EXPECT_EQ(rcs.Row(1).key, "0ID");
+    EXPECT_EQ(rcs.Row(1).text, "P0");
+    EXPECT_TRUE(rcs.Row(1).checked);
+
+    auto& toolbar = static_cast<Toolbar&>(*pictures.Find("tlbNames"));
+    ASSERT_TRUE(toolbar.UserClick("NEW"));
+    pictures.CallMenuMethod("gMenuAddClick");
+    EXPECT_EQ(pictures.adds, 2);
+    auto& names = static_cast<ListControl&>(*pictures.Find("lvwNames"));
+    ASSERT_TRUE(names.UserSelect(2));
+    host.QueueAnswer(Answer::Cancel);
+    ASSERT_TRUE(toolbar.UserClick("DELETE"));
+    EXPECT_EQ(pictures.removing, "");
+    // Only the Delete key deletes.
+    ASSERT_TRUE(names.UserKeyDown(13));
+    host.QueueAnswer(Answer::OK);
+    ASSERT_TRUE(names.UserKeyDown(46));
+    EXPECT_EQ(pictures.removing, "dog");
+    EXPECT_EQ(names.Count(), 1);
+
+    static_cast<Toolbar&>(*pictures.Find("tlbFormToolbar")).onButtonClick("SAVE");
+    EXPECT_EQ(hub.ReadSetting("T/Pictures.tbl"),
+              Crlf({"tPictures = {", "\ttEnabledRC = {", "\t\t[0] = 1,", "\t},", "\ttNames = {",
+                    "\t\t\"cat\",", "\t},", "}"}));
+}
+
 TEST(RowDialogs, AnEditDialogWithoutItsAddButtonNeverEnablesIt) {
     DialogRequest request{.kind = DialogKind::OneFields, .required = 1, .addButton = false};
     EditDialog dialog(request);

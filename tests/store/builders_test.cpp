@@ -73,6 +73,47 @@ TEST_F(Builders, ADataFileIsWrittenOnlyWhenMissing) {
               "tSample = {\r\n\t[\"Bob\"] = 1,\r\n}");
 }
 
+// A new list file holds its sample rows; a sub-table may be written under a name of the
+// builder's own, a named row with a fixed value, and profile rows may start past Unregistered.
+TEST_F(Builders, ANewListHoldsItsSampleRowsInTheBuildersForm) {
+    FileSchema schema{"Test\\Sample.tbl",
+                      "tSample",
+                      {{.kind = FieldKind::Rows,
+                        .key = "tOne",
+                        .defaultValue = "",
+                        .defaultRows = {{"", "artless"}}},
+                       {.kind = FieldKind::Rows,
+                        .key = "tThree",
+                        .defaultValue = "",
+                        .defaultRows = {{"", "hedge-pig"}, {"", "cat"}}},
+                       {.kind = FieldKind::Rows,
+                        .key = "tWards",
+                        .defaultValue = "",
+                        .rowForm = RowForm::Named,
+                        .quotedRows = false,
+                        .defaultRows = {{"Bob", "ignored"}},
+                        .rowValue = "1"}},
+                      FileKind::Data};
+    schema.builderForm.lines["tThree"] = {.name = "tThreee"};
+    EXPECT_EQ(Build(schema, 3), Crlf({"tSample = {", "\ttOne = {", "\t\t\"artless\",", "\t},",
+                                      "\ttThreee = {", "\t\t\"hedge-pig\",", "\t\t\"cat\",", "\t},",
+                                      "\ttWards = {", "\t\t[\"Bob\"] = 1,", "\t},", "}"}));
+    // The page writes the field's own name.
+    const auto noValue = [](const Field&, int) { return std::string(); };
+    EXPECT_NE(RenderTable(schema, 0, noValue).find("\ttThree = {"), std::string::npos);
+
+    FileSchema rc{"Test\\Sample.tbl",
+                  "tSample",
+                  {{.kind = FieldKind::ProfileChecks,
+                    .key = "tEnabledRC",
+                    .defaultValue = "0",
+                    .firstProfile = 0}}};
+    hub.WriteSetting("Test/Sample.tbl", Crlf({"tSample = {", "\ttEnabledRC = {", "\t\t[-1] = 1,",
+                                              "\t\t[1] = 1,", "\t},", "}"}));
+    EXPECT_EQ(Build(rc, 1), Crlf({"tSample = {", "\ttEnabledRC = {", "\t\t[0] = 0,", "\t\t[1] = 1,",
+                                  "\t},", "}"}));
+}
+
 TEST_F(Builders, AResetFileForgetsWhatItHeld) {
     hub.WriteSetting("Test/Sample.tbl", Crlf({"tSample = {", "\tbOn = 0,", "\tiCount = 99,",
                                               "\tsName = \"x\",", "}"}));

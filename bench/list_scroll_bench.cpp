@@ -1,0 +1,111 @@
+// Scrolling the long lists of the user actions in the real window, offscreen: a list of 20 000
+// quotations and a book of 10 000 spells, scrolled from top to bottom a page at a time, each
+// page painted before the next. The time of one page is what a user waits for as the list moves.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QTreeView>
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "gui/application.h"
+#include "gui/main_window.h"
+#include "pages/pages.h"
+#include "shell/scripted_host.h"
+#include "shell/startup.h"
+#include "support/temp_hub.h"
+
+namespace {
+
+using namespace qb;
+
+// Runs the start once without a window, so that the window finds nothing to rebuild.
+void Build(const test::TempHub& hub) {
+    store::TableFiles files(hub.ProgramFolder());
+    std::ostringstream transcript;
+    shell::ScriptedHost host(transcript);
+    host.QueueAnswer(shell::Answer::OK);
+    shell::PageRegistry registry;
+    store::BuilderRegistry builders;
+    pages::RegisterAllBuilders(builders);
+    shell::Container container(files, host, registry);
+    shell::RunStartChecks(container, builders);
+}
+
+// Opens the page in the window and scrolls its list through, a page at a time, painting each.
+void Scroll(benchmark::State& state, const test::TempHub& hub, const std::string& key,
+            const char* list) {
+    gui::Application program(hub.Scripts());
+    if (program.Open() >= 0) {
+        state.SkipWithError("the start didn't open the window");
+        return;
+    }
+    program.Container().OpenFunctionPage(key);
+    QApplication::processEvents();
+    auto* view = program.Window()->findChild<QTreeView*>(list);
+    if (view == nullptr) {
+        state.SkipWithError("no list in the window");
+        return;
+    }
+    QScrollBar* bar = view->verticalScrollBar();
+    double slowest = 0;
+    int pages = 0;
+    for (auto _ : state) {
+        for (int at = bar->minimum(); at <= bar->maximum(); at += bar->pageStep()) {
+            const auto start = std::chrono::steady_clock::now();
+            bar->setValue(at);
+            view->viewport()->repaint();
+            const std::chrono::duration<double, std::milli> took =
+                std::chrono::steady_clock::now() - start;
+            slowest = std::max(slowest, took.count());
+            ++pages;
+        }
+        bar->setValue(bar->minimum());
+    }
+    state.counters["pages"] = pages;
+    state.counters["slowest_page_ms"] = slowest;
+    state.counters["ms_per_page"] = benchmark::Counter(
+        static_cast<double>(pages),
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void QuotationsScroll(benchmark::State& state) {
+    test::TempHub hub;
+    Build(hub);
+    std::string list = "tQuotations = {\r\n";
+    for (int n = 1; n <= 20000; ++n)
+        list += "\t\"Quotation number " + std::to_string(n) + "|  -- Someone\",\r\n";
+    hub.WriteSetting("UserActions/Quotations/Quotations.tbl", list + "}\r\n");
+    Scroll(state, hub, "UserActions~Quotations", "lvwQuotations");
+}
+BENCHMARK(QuotationsScroll)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+void SpellBookScroll(benchmark::State& state) {
+    test::TempHub hub;
+    Build(hub);
+    std::string book = "tSpellBook = {\r\n";
+    for (int n = 1; n <= 10000; ++n) {
+        book += "\t[\"Spell" + std::to_string(n) + "\"] = \"What spell " + std::to_string(n) +
+                " does\",\r\n";
+    }
+    hub.WriteSetting("UserActions/Spells/SpellBook.tbl", book + "}\r\n");
+    Scroll(state, hub, "UserActions~Spells~SpellBook", "lvwSpells");
+}
+BENCHMARK(SpellBookScroll)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
