@@ -68,7 +68,9 @@ class Sweep : public ::testing::Test, protected test::PageHarness {
         container.LoadProfiles();
         store::BuilderRegistry builders;
         RegisterAllBuilders(builders);
-        store::BuildRun run{files, container.Profiles().LastNumber()};
+        store::BuildRun run{.files = files,
+                            .lastProfile = container.Profiles().LastNumber(),
+                            .profileNames = container.Profiles().Names()};
         shell::RebuildSettings(run, builders);
         built_ = Tree();
     }
