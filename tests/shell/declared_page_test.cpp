@@ -266,6 +266,17 @@ TEST_F(DeclaredPage, AnEditKeepsTheRowsNameAndTheDialogTakesThePagesChoices) {
               Crlf({"tNicks = {", "\t[\"vandrell\"] = \"crown\",", "}"}));
 }
 
+TEST_F(DeclaredPage, TheRowButtonsFollowTheRowsRestorePutsIn) {
+    page = std::make_unique<NickPage>(context);
+    page->Load();  // no file: no rows
+    const auto& toolbar = Get<Toolbar>("tlbNicks");
+    EXPECT_FALSE(toolbar.Find("EDIT")->enabled);
+    host.QueueAnswer(Answer::OK);
+    ASSERT_TRUE(Click("tlbFormToolbar", "RESTORE"));
+    EXPECT_TRUE(toolbar.Find("DELETE")->enabled);
+    EXPECT_TRUE(toolbar.Find("EDIT")->enabled);
+}
+
 TEST(RowDialogs, AnEditDialogWithoutItsAddButtonNeverEnablesIt) {
     DialogRequest request{.kind = DialogKind::OneFields, .required = 1, .addButton = false};
     EditDialog dialog(request);
