@@ -29,6 +29,11 @@ const std::map<std::string, std::string>& SaveDiffers() {
          "the builder leaves out the unregistered users as the talked-to; the page writes them"},
         {"Communication~MassMessage",
          "the builder writes the words bare and keeps Operator; the page quotes them and drops it"},
+        {"CustomiseUser~CustomRightClick",
+         "the builder makes the table empty; the page's save writes the count of its entries"},
+        {"CustomiseUser~DescriptionTags",
+         "the builder writes bNotifyOps and the tags before the profiles; the page drops "
+         "bNotifyOps and writes the profiles first"},
         {"General~Commands",
          "the language sets come with the script pack; no rebuild writes "
          "their index, and the page's save makes it"},
@@ -57,6 +62,10 @@ const std::map<std::string, std::string>& RestoreDiffers() {
          "RESTORE ticks every row, the two functions that are off by default too"},
         {"General~EnableRightClicks",
          "RESTORE ticks every row, the two functions that are off by default too"},
+        {"CustomiseUser~IntroOutro~Standard",
+         "RESTORE puts the default lines in; a rebuild makes the lists empty"},
+        {"CustomiseUser~IntroOutro~Custom",
+         "RESTORE puts the default lines in; a rebuild makes the lists empty"},
     };
     return pages;
 }
