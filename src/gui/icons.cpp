@@ -267,6 +267,20 @@ void Quill(QPainter& p) {
     p.drawPath(feather);
 }
 
+// An arrow up or down the rows, with a bar where it goes all the way.
+void MoveArrow(QPainter& p, bool up, bool toEnd) {
+    const double tip = up ? 7 : 25;
+    const double tail = up ? 27 : 5;
+    const double head = up ? 6 : -6;
+    p.setPen(Pen(kBlue, 3));
+    p.drawLine(QPointF(16, tip), QPointF(16, tail));
+    p.drawPolyline(QPolygonF({QPointF(9, tip + head), QPointF(16, tip), QPointF(23, tip + head)}));
+    if (toEnd) {
+        p.setPen(Pen(kInk, 3));
+        p.drawLine(QPointF(8, up ? 3 : 29), QPointF(24, up ? 3 : 29));
+    }
+}
+
 const std::map<std::string, Drawing>& Drawings() {
     static const std::map<std::string, Drawing> drawings = {
         {"SAVE", Floppy},
@@ -297,6 +311,11 @@ const std::map<std::string, Drawing>& Drawings() {
              Check(p, kGreen);
          }},
         {"OPEN", Folder},
+        // A list's rows moved in order.
+        {"MoveTop", [](QPainter& p) { MoveArrow(p, true, true); }},
+        {"MoveUp", [](QPainter& p) { MoveArrow(p, true, false); }},
+        {"MoveDown", [](QPainter& p) { MoveArrow(p, false, false); }},
+        {"MoveBottom", [](QPainter& p) { MoveArrow(p, false, true); }},
         // The permission pages' filters: by command, by profile.
         {"COMMAND",
          [](QPainter& p) {

@@ -2,6 +2,7 @@
 
 #include "pages/archive/archive.h"
 #include "pages/communication/communication.h"
+#include "pages/customiseuser/customiseuser.h"
 #include "pages/general/general.h"
 #include "pages/language/language.h"
 #include "pages/security/security.h"
@@ -10,6 +11,7 @@
 namespace qb::pages {
 
 void RegisterAllPages(shell::PageRegistry& registry, const PageServices& services) {
+    RegisterCustomiseUserPages(registry);
     RegisterGeneralPages(registry);
     RegisterLanguagePages(registry);
     RegisterCommunicationPages(registry, services);
@@ -18,7 +20,9 @@ void RegisterAllPages(shell::PageRegistry& registry, const PageServices& service
     RegisterArchivePages(registry);
 }
 
+// In the order a rebuild builds the areas.
 void RegisterAllBuilders(store::BuilderRegistry& builders) {
+    RegisterCustomiseUserBuilders(builders);
     RegisterGeneralBuilders(builders);
     RegisterCommunicationBuilders(builders);
     RegisterSecurityBuilders(builders);

@@ -245,10 +245,12 @@ class RowsBinding : public Binding {
         if (quirks_.restoreRows == Quirks::RestoreRows::Empty) return;
         for (const store::ListEntry& entry : Field().defaultRows) {
             const int row = list_.Count() + 1;
+            const std::string key =
+                quirks_.restoreKeysNumbered ? "id" + std::to_string(row) : std::string("id");
             if (Field().rowForm == store::RowForm::Bare) {
-                list_.Append("id" + std::to_string(row), entry.value);
+                list_.Append(key, entry.value);
             } else {
-                list_.Append("id" + std::to_string(row), entry.key);
+                list_.Append(key, entry.key);
                 list_.SetCell(row, 2, entry.value);
             }
         }

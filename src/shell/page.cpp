@@ -250,6 +250,9 @@ void Page::FormToolbarClick(const std::string& key) {
     } else if (key == "RESTORE") {
         if (!Confirm("Restore to defaults?", "Restore defaults?")) return;
         RestoreDefaults();
+        // The row buttons follow the rows RESTORE left, as they do after a load.
+        for (const auto& editor : editors_)
+            editor->Loaded();
         MarkDirty();
     }
 }

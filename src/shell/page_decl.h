@@ -36,6 +36,9 @@ struct Quirks {
     // What RESTORE does to a list of rows: leaves it, empties it, or puts the field's default
     // rows in.
     enum class RestoreRows { Keep, Empty, Defaults } restoreRows = RestoreRows::Keep;
+    // The rows RESTORE puts in are keyed "id" and their number ("id1", "id2"...); off, each is
+    // keyed "id" alone.
+    bool restoreKeysNumbered = true;
 };
 
 // One control of a page.
@@ -124,6 +127,9 @@ struct RowDialogDecl {
     bool addButton = true;
     std::vector<std::vector<std::string>> comboItems{};
     std::vector<UpDownBounds> bounds{};
+    // Fields (from 0) the dialog shows but whose answer the row doesn't take: an edit that names
+    // its row in a field and never renames it.
+    std::vector<int> shownOnly{};
 };
 
 // Which row NEW's siblings act on.

@@ -65,8 +65,12 @@ DialogRequest RowEditor::Request(const RowDialogDecl& dialog, int row) const {
     return request;
 }
 
-void RowEditor::Store(int row, const DialogResult& result) {
+void RowEditor::Store(int row, const RowDialogDecl& dialog, const DialogResult& result) {
     for (size_t field = 0; field < decl_.columns.size() && field < result.fields.size(); ++field) {
+        if (std::find(dialog.shownOnly.begin(), dialog.shownOnly.end(), static_cast<int>(field)) !=
+            dialog.shownOnly.end()) {
+            continue;
+        }
         const int column = decl_.columns[field];
         if (column == 1) {
             list_.SetText(row, result.fields[field]);
@@ -107,6 +111,7 @@ void RowEditor::Add() {
     for (;;) {
         DialogRequest request = Request(*decl_.add, 0);
         request.mode = "A";
+        if (onRequest) onRequest(request, 0);
         const DialogResult result = host_.ShowDialog(request);
         if (result.mode != "1" && result.mode != "A") break;
         const int row = list_.Count() + 1;
@@ -114,7 +119,7 @@ void RowEditor::Add() {
         const bool textGiven =
             std::find(decl_.columns.begin(), decl_.columns.end(), 1) != decl_.columns.end();
         list_.Append(NewRowKey(files_, row), textGiven ? std::string() : std::to_string(row));
-        Store(row, result);
+        Store(row, *decl_.add, result);
         markDirty_();
         if (onStored) onStored(row, true);
         if (decl_.limit != 0 && list_.Count() == decl_.limit) {
@@ -136,9 +141,10 @@ void RowEditor::Edit() {
     if (!decl_.edit) return;
     DialogRequest request = Request(*decl_.edit, row);
     request.mode = "E";
+    if (onRequest) onRequest(request, row);
     const DialogResult result = host_.ShowDialog(request);
     if (result.mode != "1") return;
-    Store(row, result);
+    Store(row, *decl_.edit, result);
     markDirty_();
     if (onStored) onStored(row, false);
 }

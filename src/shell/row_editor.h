@@ -41,10 +41,13 @@ class RowEditor {
     std::function<void(int row, bool added)> onStored;
     // Told after a row went.
     std::function<void()> onDeleted;
+    // Told before a dialog shows, for a row (0 for a new one): what the page knows only when the
+    // dialog opens, such as the choices of a combo.
+    std::function<void(DialogRequest& request, int row)> onRequest;
 
   private:
     DialogRequest Request(const RowDialogDecl& dialog, int row) const;
-    void Store(int row, const DialogResult& result);
+    void Store(int row, const RowDialogDecl& dialog, const DialogResult& result);
     void EnableRowButtons(bool enabled);
 
     RowEditorDecl decl_;

@@ -54,7 +54,9 @@ CheckResult CheckSettingsVersion(SettingsChange change, Container& container,
     if (container.GetHost().ShowMessage(ChangePrompt(change)) != Answer::OK) {
         return CheckResult::Cancelled;
     }
-    store::BuildRun run{files, container.Profiles().LastNumber()};
+    store::BuildRun run{.files = files,
+                        .lastProfile = container.Profiles().LastNumber(),
+                        .profileNames = container.Profiles().Names()};
     RebuildSettings(run, builders);
     return CheckResult::Rebuilt;
 }

@@ -53,6 +53,12 @@ std::string SubTableOf(const FileSchema& schema, const Field& field) {
 
 }  // namespace
 
+std::string BuildRun::ProfileName(int number) const {
+    const int row = number + 1;
+    if (row < 0 || row >= static_cast<int>(profileNames.size())) return {};
+    return profileNames[static_cast<size_t>(row)];
+}
+
 std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema) {
     return (schema.inAppFolder ? files.ProgramFolder() : files.SettingsFolder()) + "\\" +
            schema.file;

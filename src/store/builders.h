@@ -23,6 +23,12 @@ struct BuildRun {
     int lastProfile;  // per-profile rows are written for the numbers -1 to this one
     std::string_view edition = kEdition;
     ProgramVersion version = kVersion;
+    // The hub's profiles by row, Unregistered first, for the defaults that follow a profile's
+    // name; a run that leaves them out gives every profile an empty name.
+    std::vector<std::string> profileNames{};
+
+    // The name of a profile number, or empty.
+    std::string ProfileName(int number) const;
 };
 
 // The path a builder reads a file through: absolute, so that the readers' drive test takes it as

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "store/cp1252.h"
 #include "store/fatal_error.h"
 #include "store/line_reader.h"
 #include "store/paths.h"
@@ -40,6 +41,15 @@ std::string TemporaryPrefix(const fs::path& target) {
     return "." + target.filename().string() + ".";
 }
 
+// Whether a file is what a write cut off left: ".<name>.XXXXXX" beside the file it was for.
+bool IsWriteTemporary(const fs::path& file) {
+    const std::string name = file.filename().string();
+    const size_t dot = name.size() >= 8 ? name.size() - 7 : std::string::npos;
+    if (dot == std::string::npos || name[0] != '.' || name[dot] != '.') return false;
+    return std::all_of(name.end() - 6, name.end(),
+                       [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; });
+}
+
 // A write cut off by a crash or a kill leaves its temporary file behind: the next write of the
 // same file clears it away, so that a folder doesn't fill with them.
 void RemoveStaleTemporaries(const fs::path& target) {
@@ -48,10 +58,9 @@ void RemoveStaleTemporaries(const fs::path& target) {
     for (const auto& entry : fs::directory_iterator(target.parent_path(), ec)) {
         const std::string name = entry.path().filename().string();
         if (name.size() != prefix.size() + 6 || !name.starts_with(prefix)) continue;
-        const bool random = std::all_of(name.end() - 6, name.end(), [](char c) {
-            return std::isalnum(static_cast<unsigned char>(c)) != 0;
-        });
-        if (random && entry.is_regular_file(ec)) fs::remove(entry.path(), ec);
+        if (IsWriteTemporary(entry.path()) && entry.is_regular_file(ec)) {
+            fs::remove(entry.path(), ec);
+        }
     }
 }
 
@@ -307,12 +316,31 @@ void TableFiles::CreateFolder(std::string_view path) {
     natives_.clear();
 }
 
-void TableFiles::DeleteFile(std::string_view path) {
+std::vector<std::string> TableFiles::FolderFiles(std::string_view folder) const {
+    std::vector<std::string> names;
+    const auto native = ToNativePath(folder);
+    std::error_code ec;
+    if (!native || !fs::is_directory(*native, ec)) return names;
+    for (const auto& entry : fs::directory_iterator(*native, ec)) {
+        if (!entry.is_regular_file(ec) || IsWriteTemporary(entry.path())) continue;
+        names.push_back(Utf8ToCp1252(entry.path().filename().string()));
+    }
+    std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
+        const std::string foldedA = FoldCase(a);
+        const std::string foldedB = FoldCase(b);
+        return foldedA != foldedB ? foldedA < foldedB : a < b;
+    });
+    return names;
+}
+
+bool TableFiles::DeleteFile(std::string_view path) {
     const auto native = ToNativePath(path);
-    if (!native) throw FatalError(std::string(path), "not a path on a drive");
-    const std::string shown = native->string();
-    Forget(shown);
-    if (::unlink(native->c_str()) != 0 && errno != ENOENT) throw FatalError(shown, Reason(errno));
+    std::error_code ec;
+    if (!native || !fs::is_regular_file(*native, ec)) return false;
+    Forget(native->string());
+    if (::unlink(native->c_str()) == 0) return true;
+    if (errno == ENOENT) return false;  // gone between the look and the unlink
+    throw FatalError(native->string(), Reason(errno));
 }
 
 double TableFiles::NextRandom() {

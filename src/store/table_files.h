@@ -95,9 +95,12 @@ class TableFiles {
     bool FileExists(std::string_view path) const;
     bool FolderExists(std::string_view path) const;
     void CreateFolder(std::string_view path);  // FatalError when it can't be made
-    // Deletes a file at once. A file that is already gone is no error; one that can't be
-    // deleted is fatal.
-    void DeleteFile(std::string_view path);
+    // The names of the files in a folder, as the file system object lists them: by name, letter
+    // case aside. A missing folder has none; a write's leftover temporary isn't a file of it.
+    std::vector<std::string> FolderFiles(std::string_view folder) const;
+    // Removes a file at once and forgets what a read scope kept of it; false when there was
+    // none (a file already gone is no error). FatalError when it can't be removed.
+    bool DeleteFile(std::string_view path);
 
     // Whether a read past line 5000 of ReadTextFile has left the file slot taken.
     bool SlotStuck() const { return slotStuck_; }

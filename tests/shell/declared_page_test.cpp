@@ -266,6 +266,92 @@ TEST_F(DeclaredPage, APageMayOwnNewHearOfADeleteAndStartItsProfileRowsLater) {
     EXPECT_EQ(hub.ReadSetting("T/Pictures.tbl"),
               Crlf({"tPictures = {", "\ttEnabledRC = {", "\t\t[0] = 1,", "\t},", "\ttNames = {",
                     "\t\t\"cat\",", "\t},", "}"}));
+// Named rows whose edit names the row in its first field and never renames it; the file field's
+// choices are the page's to give when the dialog opens.
+const store::FileSchema& Nicks() {
+    static const store::FileSchema file{
+        .file = "T\\Nicks.tbl",
+        .table = "tNicks",
+        .fields = {{.kind = FieldKind::Rows,
+                    .key = "tNicks",
+                    .defaultValue = "",
+                    .rowForm = store::RowForm::Named,
+                    .defaultRows = {{"vandrell", "crown"}}}},
+    };
+    return file;
+}
+
+class NickPage : public Page {
+  public:
+    static const PageDecl& Decl() {
+        using namespace decl;
+        const RowDialogDecl dialog{.kind = DialogKind::TextCombo,
+                                   .caption = "Add Nick",
+                                   .labels = {"Nick", "File"},
+                                   .required = 1};
+        RowDialogDecl edit = dialog;
+        edit.caption = "Edit {row}";
+        edit.labels = {"Nick {row}", "File"};
+        edit.shownOnly = {0};
+        static const PageDecl page{
+            .key = "T~Nicks",
+            .caption = "T ~ Nicks",
+            .size = {3400, 6075},
+            .files = {&Nicks()},
+            .controls = {decl::Toolbar("tlbNicks", {SetupListToolbar}),
+                         With({.restoreRows = Quirks::RestoreRows::Defaults,
+                               .restoreKeysNumbered = false},
+                              Rows("lvwNicks", "tNicks", 3000,
+                                   {{"column1", "Nick", 1300}, {"column2", "File", 1300}}))},
+            .editors = {{.list = "lvwNicks",
+                         .toolbar = "tlbNicks",
+                         .columns = {1, 2},
+                         .add = dialog,
+                         .edit = edit}},
+        };
+        return page;
+    }
+    explicit NickPage(PageContext& context) : Page(context, Decl()) {
+        Editor("lvwNicks").onRequest = [](DialogRequest& request, int) {
+            request.comboItems = {{"crown", "dragon"}};
+        };
+    }
+};
+
+TEST_F(DeclaredPage, AnEditKeepsTheRowsNameAndTheDialogTakesThePagesChoices) {
+    hub.WriteSetting("T/Nicks.tbl", Crlf({"tNicks = {", "\t[\"bob\"] = \"crown\",", "}"}));
+    page = std::make_unique<NickPage>(context);
+    page->Load();
+    auto& nicks = Get<ListControl>("lvwNicks");
+    // "dragon" is a choice only because the page gave it.
+    host.QueueDialog({"OK", {"amy", "dragon"}});
+    ASSERT_TRUE(Click("tlbNicks", "NEW"));
+    host.QueueDialog({"OK", {"robert", "dragon"}});
+    ASSERT_TRUE(nicks.UserSelect(1));
+    ASSERT_TRUE(Click("tlbNicks", "EDIT"));
+    EXPECT_EQ(nicks.Row(1).text, "bob");
+    EXPECT_EQ(nicks.Cell(1, 2), "dragon");
+    EXPECT_EQ(transcript.str(),
+              "dialog: Add Nick -> OK amy dragon\ndialog: Edit bob -> OK robert dragon\n");
+
+    host.QueueAnswer(Answer::OK);
+    ASSERT_TRUE(Click("tlbFormToolbar", "RESTORE"));
+    ASSERT_EQ(nicks.Count(), 1);
+    EXPECT_EQ(nicks.Row(1).key, "id");
+    ASSERT_TRUE(Click("tlbFormToolbar", "SAVE"));
+    EXPECT_EQ(hub.ReadSetting("T/Nicks.tbl"),
+              Crlf({"tNicks = {", "\t[\"vandrell\"] = \"crown\",", "}"}));
+}
+
+TEST_F(DeclaredPage, TheRowButtonsFollowTheRowsRestorePutsIn) {
+    page = std::make_unique<NickPage>(context);
+    page->Load();  // no file: no rows
+    const auto& toolbar = Get<Toolbar>("tlbNicks");
+    EXPECT_FALSE(toolbar.Find("EDIT")->enabled);
+    host.QueueAnswer(Answer::OK);
+    ASSERT_TRUE(Click("tlbFormToolbar", "RESTORE"));
+    EXPECT_TRUE(toolbar.Find("DELETE")->enabled);
+    EXPECT_TRUE(toolbar.Find("EDIT")->enabled);
 }
 
 TEST(RowDialogs, AnEditDialogWithoutItsAddButtonNeverEnablesIt) {

@@ -104,6 +104,27 @@ TEST_F(Writer, DeletesAFileAtOnceAndTakesAGoneFileCalmly) {
     }
     EXPECT_FALSE(fs::exists(hub.Settings() / "Pictures" / "Cat.asc"));
     EXPECT_NO_THROW(files.DeleteFile(path));
+// The file system object's listing and deletion, as the pages that keep a folder of files use them.
+TEST_F(Writer, AFolderListsItsFilesByNameLetterCaseAsideAndADeletedFileIsGoneAtOnce) {
+    hub.WriteSetting("Ascii/b.asc", "b");
+    hub.WriteSetting("Ascii/A.asc", "a");
+    hub.WriteSetting("Ascii/c", "c");
+    hub.WriteSetting("Ascii/\xC3\xA9t\xC3\xA9.asc", "summer");  // UTF-8 on the disk
+    hub.WriteSetting("Ascii/.b.asc.Ab12Cd", "a write cut short");
+    hub.WriteSetting("Ascii/Sub/z.asc", "in a folder below");
+    const std::string folder = files.SettingsFolder() + "\\ascii";
+    EXPECT_EQ(files.FolderFiles(folder),
+              (std::vector<std::string>{"A.asc", "b.asc", "c", "\xE9t\xE9.asc"}));
+    EXPECT_TRUE(files.FolderFiles(folder + "\\Missing").empty());
+
+    // A read in a scope keeps nothing of a file deleted since.
+    TableFiles::ReadScope scope(files);
+    hub.WriteSetting("Ascii/b.asc", "tB = {\r\n\tsName = \"b\",\r\n}");
+    EXPECT_EQ(files.ReadTableValue("Ascii\\b.asc", "sName", "tB"), "b");
+    EXPECT_TRUE(files.DeleteFile(folder + "\\B.ASC"));
+    EXPECT_FALSE(fs::exists(hub.Settings() / "Ascii" / "b.asc"));
+    EXPECT_EQ(files.ReadTableValue("Ascii\\b.asc", "sName", "tB"), "");
+    EXPECT_FALSE(files.DeleteFile(folder + "\\b.asc"));
 }
 
 }  // namespace

@@ -28,8 +28,9 @@ int main(int argc, char** argv) {
     harness.Load();
     qb::store::BuilderRegistry builders;
     qb::pages::RegisterAllBuilders(builders);
-    qb::store::BuildRun run{harness.Container().Files(),
-                            harness.Container().Profiles().LastNumber()};
+    qb::store::BuildRun run{.files = harness.Container().Files(),
+                            .lastProfile = harness.Container().Profiles().LastNumber(),
+                            .profileNames = harness.Container().Profiles().Names()};
     qb::shell::RebuildSettings(run, builders);
     if (!harness.Show(QSize(1200, 800))) return 1;
     for (int i = 2; i < argc; ++i) {
