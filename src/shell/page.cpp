@@ -249,10 +249,8 @@ void Page::FormToolbarClick(const std::string& key) {
         if (discardClears_) MarkClean();
     } else if (key == "RESTORE") {
         if (!Confirm("Restore to defaults?", "Restore defaults?")) return;
+        // RESTORE leaves the row buttons as they stand, even over a list it empties or fills.
         RestoreDefaults();
-        // The row buttons follow the rows RESTORE left, as they do after a load.
-        for (const auto& editor : editors_)
-            editor->Loaded();
         MarkDirty();
     }
 }

@@ -73,7 +73,7 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
             if (run.files.FileExists(path)) return;
             // A new list holds its sample rows, where it has any.
             text =
-                Write(schema, run, byDefault, [](const Field& field) { return field.defaultRows; });
+                Write(schema, run, byDefault, [](const Field& field) { return field.sampleRows; });
             break;
         case FileKind::Reset:
             text = Write(schema, run, byDefault);

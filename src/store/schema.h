@@ -67,9 +67,10 @@ struct Field {
     // The rows of a list: their form, and whether a value is written in quotes.
     RowForm rowForm = RowForm::Bare;
     bool quotedRows = true;
-    // The rows RESTORE puts in, where it refills a list, and those a new data file is written
-    // with.
+    // The rows RESTORE puts in, where it refills a list.
     std::vector<ListEntry> defaultRows{};
+    // The rows a new data file is written with: a sample the user sees the form of a row by.
+    std::vector<ListEntry> sampleRows{};
     // Every named row is written with this value, which no list shows ("["Nick"] = 1,").
     std::optional<std::string> rowValue{};
     // Profile checks whose rows start at this number, not at -1 (Unregistered has no row).

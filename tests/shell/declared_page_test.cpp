@@ -266,6 +266,8 @@ TEST_F(DeclaredPage, APageMayOwnNewHearOfADeleteAndStartItsProfileRowsLater) {
     EXPECT_EQ(hub.ReadSetting("T/Pictures.tbl"),
               Crlf({"tPictures = {", "\ttEnabledRC = {", "\t\t[0] = 1,", "\t},", "\ttNames = {",
                     "\t\t\"cat\",", "\t},", "}"}));
+}
+
 // Named rows whose edit names the row in its first field and never renames it; the file field's
 // choices are the page's to give when the dialog opens.
 const store::FileSchema& Nicks() {
@@ -343,15 +345,16 @@ TEST_F(DeclaredPage, AnEditKeepsTheRowsNameAndTheDialogTakesThePagesChoices) {
               Crlf({"tNicks = {", "\t[\"vandrell\"] = \"crown\",", "}"}));
 }
 
-TEST_F(DeclaredPage, TheRowButtonsFollowTheRowsRestorePutsIn) {
+TEST_F(DeclaredPage, RestoreLeavesTheRowButtonsAsTheyStand) {
     page = std::make_unique<NickPage>(context);
     page->Load();  // no file: no rows
     const auto& toolbar = Get<Toolbar>("tlbNicks");
     EXPECT_FALSE(toolbar.Find("EDIT")->enabled);
     host.QueueAnswer(Answer::OK);
     ASSERT_TRUE(Click("tlbFormToolbar", "RESTORE"));
-    EXPECT_TRUE(toolbar.Find("DELETE")->enabled);
-    EXPECT_TRUE(toolbar.Find("EDIT")->enabled);
+    EXPECT_EQ(Get<ListControl>("lvwNicks").Count(), 1);
+    EXPECT_FALSE(toolbar.Find("DELETE")->enabled);
+    EXPECT_FALSE(toolbar.Find("EDIT")->enabled);
 }
 
 TEST(RowDialogs, AnEditDialogWithoutItsAddButtonNeverEnablesIt) {

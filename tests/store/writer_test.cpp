@@ -91,19 +91,6 @@ TEST_F(Writer, FoldersAreMadeOnlyBelowFoldersThatExist) {
     EXPECT_THROW(files.CreateFolder(settings + "\\Missing\\Child"), FatalError);
 }
 
-TEST_F(Writer, DeletesAFileAtOnceAndTakesAGoneFileCalmly) {
-    hub.WriteSetting("Pictures/Cat.asc", "=^.^=\r\n");
-    const std::string path =
-        hub.ProgramFolder() + "\\Vandrell's Quillbook\\Settings\\pictures\\CAT.asc";
-    {
-        // A read scope that knew the file doesn't answer from it after the delete.
-        const TableFiles::ReadScope scope(files);
-        EXPECT_EQ(files.ReadTextFile("Pictures\\Cat.asc"), "=^.^=\r\n");
-        files.DeleteFile(path);
-        EXPECT_EQ(files.ReadTextFile("Pictures\\Cat.asc"), "");
-    }
-    EXPECT_FALSE(fs::exists(hub.Settings() / "Pictures" / "Cat.asc"));
-    EXPECT_NO_THROW(files.DeleteFile(path));
 // The file system object's listing and deletion, as the pages that keep a folder of files use them.
 TEST_F(Writer, AFolderListsItsFilesByNameLetterCaseAsideAndADeletedFileIsGoneAtOnce) {
     hub.WriteSetting("Ascii/b.asc", "b");

@@ -20,7 +20,7 @@ ListWords WordsOf(const std::string& noun) {
 store::Field ListField(const StringList& list) {
     store::Field field{.kind = store::FieldKind::Rows, .key = list.key, .defaultValue = ""};
     field.rowForm = list.keyed ? store::RowForm::Named : store::RowForm::Bare;
-    field.defaultRows = list.sample;
+    field.sampleRows = list.sample;
     if (!list.rowValue.empty()) {
         field.quotedRows = false;
         field.rowValue = list.rowValue;
