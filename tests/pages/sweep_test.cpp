@@ -105,17 +105,7 @@ class Sweep : public ::testing::Test, protected test::PageHarness {
     }
 
     // Every file below the settings folder, by its path, with its bytes.
-    std::map<std::string, std::string> Tree() const {
-        std::map<std::string, std::string> tree;
-        for (const auto& entry : fs::recursive_directory_iterator(hub.Settings())) {
-            if (!entry.is_regular_file()) continue;
-            std::ifstream in(entry.path(), std::ios::binary);
-            std::ostringstream bytes;
-            bytes << in.rdbuf();
-            tree[fs::relative(entry.path(), hub.Settings()).string()] = bytes.str();
-        }
-        return tree;
-    }
+    std::map<std::string, std::string> Tree() const { return hub.SettingsTree(); }
 
     // The files that differ from the freshly built tree, with what the page wrote.
     std::string Changes() const {

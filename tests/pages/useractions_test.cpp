@@ -27,17 +27,7 @@ class UserActionsRebuild : public ::testing::Test {
         store::BuildRun run{files, lastProfile};
         builders.BuildArea(store::Area::UserActions, run);
     }
-    std::map<std::string, std::string> Tree() const {
-        std::map<std::string, std::string> tree;
-        for (const auto& entry : fs::recursive_directory_iterator(hub.Settings() / "UserActions")) {
-            if (!entry.is_regular_file()) continue;
-            std::ifstream in(entry.path(), std::ios::binary);
-            std::ostringstream bytes;
-            bytes << in.rdbuf();
-            tree[fs::relative(entry.path(), hub.Settings()).string()] = bytes.str();
-        }
-        return tree;
-    }
+    std::map<std::string, std::string> Tree() const { return hub.SettingsTree("UserActions"); }
     test::TempHub hub;
     store::TableFiles files{hub.ProgramFolder()};
     store::BuilderRegistry builders;

@@ -59,6 +59,16 @@ std::string TempHub::ReadSetting(const fs::path& relative) const {
     return Read(fs::relative(Settings(), root_) / relative);
 }
 
+std::map<std::string, std::string> TempHub::SettingsTree(const fs::path& below) const {
+    std::map<std::string, std::string> tree;
+    for (const auto& entry : fs::recursive_directory_iterator(Settings() / below)) {
+        if (!entry.is_regular_file()) continue;
+        tree[fs::relative(entry.path(), Settings()).string()] =
+            Read(fs::relative(entry.path(), root_));
+    }
+    return tree;
+}
+
 std::string Crlf(std::initializer_list<std::string_view> lines) {
     std::string text;
     for (std::string_view line : lines) {

@@ -3,6 +3,7 @@
 // pack's Settings folder. Removed when the test ends.
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,9 @@ class TempHub {
     void WriteSetting(const std::filesystem::path& relative, std::string_view bytes) const;
     std::string Read(const std::filesystem::path& relative) const;
     std::string ReadSetting(const std::filesystem::path& relative) const;
+    // Every file below a folder of the settings tree (the whole tree by default), by its path
+    // relative to the settings folder, with its bytes: a tree to compare whole.
+    std::map<std::string, std::string> SettingsTree(const std::filesystem::path& below = {}) const;
 
   private:
     std::filesystem::path root_;
