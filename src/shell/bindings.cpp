@@ -186,11 +186,16 @@ class FlagRowsBinding : public Binding {
         LoadTableRows(files, File().file, list_, "=", Key(), true, File().inAppFolder, false);
         for (int row = 1; row <= list_.Count(); ++row) {
             const std::string& text = list_.Row(row).text;
+            if (quirks_.onlyLeadingB && !text.starts_with('b')) {
+                list_.SetText(row, text.substr(0, quirks_.keepLetters));
+                continue;
+            }
             list_.SetText(row, text.size() > 1 ? text.substr(1, quirks_.keepLetters) : "");
         }
     }
     // The rows stay as they are, each ticked or not as the field's default has it.
     void Restore(const store::ProfileList&) override {
+        if (quirks_.restoreKeepsTicks) return;
         const bool ticked =
             quirks_.restoreTicksAll || store::IsNumericallyOne(Field().defaultValue);
         for (int row = 1; row <= list_.Count(); ++row)

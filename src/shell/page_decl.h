@@ -33,6 +33,12 @@ struct Quirks {
     size_t keepLetters = std::string::npos;
     // RESTORE on a check list of named flags ticks every row, whatever its default.
     bool restoreTicksAll = false;
+    // A check list of named flags whose keys may lack their leading "b": only a "b" in front is
+    // left out of the row, any other key shows as it stands. The save puts a "b" in front of
+    // every row all the same.
+    bool onlyLeadingB = false;
+    // RESTORE leaves a check list of named flags ticked as it was.
+    bool restoreKeepsTicks = false;
     // What RESTORE does to a list of rows: leaves it, empties it, or puts the field's default
     // rows in.
     enum class RestoreRows { Keep, Empty, Defaults } restoreRows = RestoreRows::Keep;

@@ -357,6 +357,48 @@ TEST_F(DeclaredPage, RestoreLeavesTheRowButtonsAsTheyStand) {
     EXPECT_FALSE(toolbar.Find("EDIT")->enabled);
 }
 
+// A file of flags whose keys may lack their "b": the rows show without a leading "b" only, the
+// save puts one in front of every row, and RESTORE leaves the ticks.
+const store::FileSchema& Filters() {
+    static const store::FileSchema file{
+        "T\\Filters.tbl", "tFilters", {{FieldKind::Flag, "bFilter", "0"}}, store::FileKind::Data};
+    return file;
+}
+
+const PageDecl& FiltersPage() {
+    using namespace decl;
+    static const PageDecl page{
+        .key = "T~Filters",
+        .caption = "T ~ Filters",
+        .size = {3400, 6075},
+        .files = {&Filters()},
+        .controls = {With({.onlyLeadingB = true, .restoreKeepsTicks = true},
+                          FlagRows("lvwFilters", "tFilters", 3000, {{"column1", "F", 2600}}))},
+    };
+    return page;
+}
+
+TEST_F(DeclaredPage, FlagRowsMayKeepAKeyWithoutItsLeadingBAndTheirTicksThroughRestore) {
+    hub.WriteSetting("T/Filters.tbl", Crlf({"tFilters = {", "\tbKick = 1,", "\tMute = 0,",
+                                            "\tban = 1,", "\tb = 0,", "}"}));
+    page = std::make_unique<Page>(context, FiltersPage());
+    page->Load();
+    const auto& list = Get<ListControl>("lvwFilters");
+    ASSERT_EQ(list.Count(), 4);
+    EXPECT_EQ(list.Row(1).text, "Kick");
+    EXPECT_EQ(list.Row(2).text, "Mute");
+    EXPECT_EQ(list.Row(3).text, "an");
+    EXPECT_EQ(list.Row(4).text, "");
+    host.QueueAnswer(Answer::OK);
+    ASSERT_TRUE(Click("tlbFormToolbar", "RESTORE"));
+    EXPECT_TRUE(list.Row(1).checked);
+    EXPECT_FALSE(list.Row(2).checked);
+    ASSERT_TRUE(Click("tlbFormToolbar", "SAVE"));
+    EXPECT_EQ(hub.ReadSetting("T/Filters.tbl"),
+              Crlf({"tFilters = {", "\tbKick = 1,", "\tbMute = 0,", "\tban = 1,", "\tb = 0,",
+                    "}"}));
+}
+
 TEST(RowDialogs, AnEditDialogWithoutItsAddButtonNeverEnablesIt) {
     DialogRequest request{.kind = DialogKind::OneFields, .required = 1, .addButton = false};
     EditDialog dialog(request);

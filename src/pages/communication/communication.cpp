@@ -3,11 +3,24 @@
 namespace qb::pages {
 
 void RegisterCommunicationPages(shell::PageRegistry& registry, const PageServices& services) {
-    registry.Register({
+    std::vector<shell::PageEntry> pages = {
         PairMatrixPageOf(MassMessageMatrix()),
         PairMatrixPageOf(MuteMatrix()),
         PairMatrixPageOf(TalkMatrix()),
-    });
+        MotdPage(),
+        ChatRoomsPage(),
+        AutoCorrectPage(),
+        WelcomeInfoSettingsPage(),
+        WelcomeInfoNetworkHubsPage(),
+        ClockPage(),
+        WhisperPage(),
+        HubEmailPage(),
+    };
+    for (auto* group : {&RotatingMessagePages, &ChangerPages}) {
+        for (shell::PageEntry& page : group())
+            pages.push_back(std::move(page));
+    }
+    registry.Register(pages);
     if (services.hubLink) registry.Register(PortalPage(services.hubLink));
 }
 
@@ -17,7 +30,20 @@ void RegisterCommunicationBuilders(store::BuilderRegistry& builders) {
         PairMatrixBuild(MassMessageMatrix()),
         PairMatrixBuild(MuteMatrix()),
         PairMatrixBuild(TalkMatrix()),
+        // The texts lie one folder down, made right after the settings' own.
+        {"Communication\\MOTD\\MOTDs", BuildMotdSettings},
+        ChatRoomSettingsSchema(),
+        ChatRoomsSchema(),
+        AutoCorrectSettingsSchema(),
+        AutoCorrectWordsSchema(),
+        AutoCorrectFiltersSchema(),
+        WelcomeInfoSettingsSchema(),
+        WelcomeInfoNetworkHubsSchema(),
+        ClockSettingsSchema(),
+        WhisperSettingsSchema(),
     });
+    builders.Add(RotatingMessageBuilds());
+    builders.Add(ChangerBuilds());
 }
 
 }  // namespace qb::pages
