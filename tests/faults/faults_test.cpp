@@ -197,10 +197,10 @@ TEST_F(Faults, AFullTmpfsEndsTheRebuildWithEveryFileWhole) {
     // The hub on a disk of 1 MiB, filled to the brim, then started; what the disk holds
     // afterwards is copied out before the namespace and its mount go away.
     const std::string script =
-        "set -e; mount -t tmpfs -o size=1m tmpfs '" + mount.string() + "'; cp -r '" +
-        hub.string() + "' '" + mount.string() + "/hub'; avail=$(df --output=avail -k '" +
-        mount.string() + "' | tail -1); head -c $(( (avail + 64) * 1024 )) /dev/zero > '" +
-        mount.string() + "/filler' || true; set +e; '" + QB_CLI + "' --scripts '" + mount.string() +
+        "set -e; mount -t tmpfs -o size=1m tmpfs '" + mount.string() + "'; cp -r '" + hub.string() +
+        "' '" + mount.string() + "/hub'; avail=$(df --output=avail -k '" + mount.string() +
+        "' | tail -1); head -c $(( (avail + 64) * 1024 )) /dev/zero > '" + mount.string() +
+        "/filler' || true; set +e; '" + QB_CLI + "' --scripts '" + mount.string() +
         "/hub/scripts' start --yes > '" + work_.string() + "/out' 2> '" + work_.string() +
         "/err'; echo $? > '" + work_.string() + "/status'; cp -r '" + mount.string() + "/hub' '" +
         copy.string() + "'";

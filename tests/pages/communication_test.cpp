@@ -35,27 +35,45 @@ class CommunicationRebuild : public ::testing::Test {
 TEST_F(CommunicationRebuild, AFreshTreeHoldsEveryDefaultInTheBuildersOrder) {
     Rebuild(2);
     // The row for all users first; each row's text is one line break.
-    EXPECT_EQ(Read("MOTD/MOTDSettings.tbl"),
-              Crlf({"tMOTDSettings = {", "\ttAll = {", "\t\tbUse = 0,", "\t\tbInMain = 0,", "\t},",
-                    "\ttByProfile = {", "\t\t[-1] = {", "\t\t\tbUse = 0,", "\t\t\tbInMain = 0,",
-                    "\t\t},", "\t\t[0] = {", "\t\t\tbUse = 0,", "\t\t\tbInMain = 0,", "\t\t},",
-                    "\t},", "}"}));
+    EXPECT_EQ(
+        Read("MOTD/MOTDSettings.tbl"),
+        Crlf({"tMOTDSettings = {", "\ttAll = {", "\t\tbUse = 0,", "\t\tbInMain = 0,", "\t},",
+              "\ttByProfile = {", "\t\t[-1] = {", "\t\t\tbUse = 0,", "\t\t\tbInMain = 0,", "\t\t},",
+              "\t\t[0] = {", "\t\t\tbUse = 0,", "\t\t\tbInMain = 0,", "\t\t},", "\t},", "}"}));
     for (const char* text : {"MOTD/MOTDs/-1.asc", "MOTD/MOTDs/0.asc", "MOTD/MOTDs/all.asc"})
         EXPECT_EQ(Read(text), "\r\n") << text;
-    EXPECT_EQ(Read("ChatRooms/ChatRoomSettings.tbl"),
-              Crlf({"tChatRoomSettings = {", "\ttAnnounce = {", "\t\tbDeleted = 1,",
-                    "\t\tbSuspended = 1,", "\t},", "\ttEnabledProfiles = {", "\t\t[-1] = 0,",
-                    "\t\t[0] = 0,", "\t},", "\ttEnabledProfilesCreate = {", "\t\t[-1] = 0,",
-                    "\t\t[0] = 0,", "\t},", "\ttEnabledProfilesDelete = {", "\t\t[-1] = 0,",
-                    "\t\t[0] = 0,", "\t},", "\ttEnabledProfilesSuspend = {", "\t\t[-1] = 0,",
-                    "\t\t[0] = 0,", "\t},", "\ttEnabledProfilesMembers = {", "\t\t[-1] = 0,",
-                    "\t\t[0] = 0,", "\t},", "}"}));
-    EXPECT_EQ(Read("RotatingPrivateMessage/RotatingPrivateMessageSettings.tbl"),
-              Crlf({"tRotatingPrivateMessageSettings = {", "\tbRandomise = 1,", "\tiDelay = 120,",
-                    "\ttEnabledProfiles = {", "\t\t[-1] = 0,", "\t\t[0] = 0,", "\t},",
-                    "\ttEnabledAdProfiles = {", "\t\t[-1] = 0,", "\t\t[0] = 0,", "\t},",
-                    "\ttEnabledMaintainProfiles = {", "\t\t[-1] = 0,", "\t\t[0] = 0,", "\t},",
-                    "}"}));
+    EXPECT_EQ(Read("ChatRooms/ChatRoomSettings.tbl"), Crlf({"tChatRoomSettings = {",
+                                                            "\ttAnnounce = {",
+                                                            "\t\tbDeleted = 1,",
+                                                            "\t\tbSuspended = 1,",
+                                                            "\t},",
+                                                            "\ttEnabledProfiles = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesCreate = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesDelete = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesSuspend = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesMembers = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t},",
+                                                            "}"}));
+    EXPECT_EQ(
+        Read("RotatingPrivateMessage/RotatingPrivateMessageSettings.tbl"),
+        Crlf({"tRotatingPrivateMessageSettings = {", "\tbRandomise = 1,", "\tiDelay = 120,",
+              "\ttEnabledProfiles = {", "\t\t[-1] = 0,", "\t\t[0] = 0,", "\t},",
+              "\ttEnabledAdProfiles = {", "\t\t[-1] = 0,", "\t\t[0] = 0,", "\t},",
+              "\ttEnabledMaintainProfiles = {", "\t\t[-1] = 0,", "\t\t[0] = 0,", "\t},", "}"}));
     EXPECT_EQ(Read("Clock/ClockSettings.tbl"),
               Crlf({"tClockSettings = {", "\tiDelay = 60,", "\tbManualControl = 0,",
                     "\tsDaylightSaving = \"BST\",", "\tsStandardTime = \"GMT\",",
@@ -105,22 +123,58 @@ TEST_F(CommunicationRebuild, AProfileAddedKeepsValuesByNumberAndLeavesDataAlone)
 
     Rebuild(3);
     // The announce boxes the page's file lacked come back on.
-    EXPECT_EQ(Read("ChatRooms/ChatRoomSettings.tbl"),
-              Crlf({"tChatRoomSettings = {", "\ttAnnounce = {", "\t\tbDeleted = 1,",
-                    "\t\tbSuspended = 1,", "\t},", "\ttEnabledProfiles = {", "\t\t[-1] = 1,",
-                    "\t\t[0] = 1,", "\t\t[1] = 0,", "\t},", "\ttEnabledProfilesCreate = {",
-                    "\t\t[-1] = 0,", "\t\t[0] = 0,", "\t\t[1] = 0,", "\t},",
-                    "\ttEnabledProfilesDelete = {", "\t\t[-1] = 0,", "\t\t[0] = 1,", "\t\t[1] = 0,",
-                    "\t},", "\ttEnabledProfilesSuspend = {", "\t\t[-1] = 0,", "\t\t[0] = 0,",
-                    "\t\t[1] = 0,", "\t},", "\ttEnabledProfilesMembers = {", "\t\t[-1] = 0,",
-                    "\t\t[0] = 0,", "\t\t[1] = 0,", "\t},", "}"}));
+    EXPECT_EQ(Read("ChatRooms/ChatRoomSettings.tbl"), Crlf({"tChatRoomSettings = {",
+                                                            "\ttAnnounce = {",
+                                                            "\t\tbDeleted = 1,",
+                                                            "\t\tbSuspended = 1,",
+                                                            "\t},",
+                                                            "\ttEnabledProfiles = {",
+                                                            "\t\t[-1] = 1,",
+                                                            "\t\t[0] = 1,",
+                                                            "\t\t[1] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesCreate = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t\t[1] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesDelete = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 1,",
+                                                            "\t\t[1] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesSuspend = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t\t[1] = 0,",
+                                                            "\t},",
+                                                            "\ttEnabledProfilesMembers = {",
+                                                            "\t\t[-1] = 0,",
+                                                            "\t\t[0] = 0,",
+                                                            "\t\t[1] = 0,",
+                                                            "\t},",
+                                                            "}"}));
     // The profiles keep their rows; the row for all users is reset.
-    EXPECT_EQ(Read("MOTD/MOTDSettings.tbl"),
-              Crlf({"tMOTDSettings = {", "\ttAll = {", "\t\tbUse = 0,", "\t\tbInMain = 0,", "\t},",
-                    "\ttByProfile = {", "\t\t[-1] = {", "\t\t\tbUse = 1,", "\t\t\tbInMain = 0,",
-                    "\t\t},", "\t\t[0] = {", "\t\t\tbUse = 0,", "\t\t\tbInMain = 1,", "\t\t},",
-                    "\t\t[1] = {", "\t\t\tbUse = 0,", "\t\t\tbInMain = 0,", "\t\t},", "\t},",
-                    "}"}));
+    EXPECT_EQ(Read("MOTD/MOTDSettings.tbl"), Crlf({"tMOTDSettings = {",
+                                                   "\ttAll = {",
+                                                   "\t\tbUse = 0,",
+                                                   "\t\tbInMain = 0,",
+                                                   "\t},",
+                                                   "\ttByProfile = {",
+                                                   "\t\t[-1] = {",
+                                                   "\t\t\tbUse = 1,",
+                                                   "\t\t\tbInMain = 0,",
+                                                   "\t\t},",
+                                                   "\t\t[0] = {",
+                                                   "\t\t\tbUse = 0,",
+                                                   "\t\t\tbInMain = 1,",
+                                                   "\t\t},",
+                                                   "\t\t[1] = {",
+                                                   "\t\t\tbUse = 0,",
+                                                   "\t\t\tbInMain = 0,",
+                                                   "\t\t},",
+                                                   "\t},",
+                                                   "}"}));
     EXPECT_EQ(Read("MOTD/MOTDs/0.asc"), "Welcome, master\r\n");
     EXPECT_EQ(Read("MOTD/MOTDs/1.asc"), "\r\n");
     EXPECT_EQ(Read("AutoCorrect/AutoCorrectWords.tbl"), words);
@@ -141,8 +195,8 @@ TEST_F(CommunicationRebuild, EachRebuildSwapsTheNetworksNameAndAddress) {
     Write("WelcomeInfo/WelcomeInfoSettings.tbl",
           Crlf({"tWelcomeInfoSettings = {", "\tbShowOps = 0,", "\tbOnlyOnline = 1,",
                 "\tsNetworkName = \"Net \"quoted\"\",", "\tsHubOwner = \"Ann\",",
-                "\tsNetworkAddress = \"net.example\",", "\ttEnabledProfiles = {",
-                "\t\t[-1] = 0,", "\t\t[0] = 1,", "\t},", "}"}));
+                "\tsNetworkAddress = \"net.example\",", "\ttEnabledProfiles = {", "\t\t[-1] = 0,",
+                "\t\t[0] = 1,", "\t},", "}"}));
     const auto expected = [](const std::string& name, const std::string& address) {
         return Crlf({"tWelcomeInfoSettings = {", "\tbShowOps = 0,", "\tbOnlyOnline = 1,",
                      "\tsNetworkFounder = \"\",", "\tsNetworkName = \"" + name + "\",",
@@ -152,11 +206,9 @@ TEST_F(CommunicationRebuild, EachRebuildSwapsTheNetworksNameAndAddress) {
                      "\ttEnabledProfiles = {", "\t\t[-1] = 0,", "\t\t[0] = 1,", "\t},", "}"});
     };
     Rebuild(2);
-    EXPECT_EQ(Read("WelcomeInfo/WelcomeInfoSettings.tbl"),
-              expected("net.example", "Net \"quoted"));
+    EXPECT_EQ(Read("WelcomeInfo/WelcomeInfoSettings.tbl"), expected("net.example", "Net \"quoted"));
     Rebuild(2);
-    EXPECT_EQ(Read("WelcomeInfo/WelcomeInfoSettings.tbl"),
-              expected("Net \"quoted", "net.example"));
+    EXPECT_EQ(Read("WelcomeInfo/WelcomeInfoSettings.tbl"), expected("Net \"quoted", "net.example"));
 }
 
 }  // namespace

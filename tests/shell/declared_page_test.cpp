@@ -394,9 +394,9 @@ TEST_F(DeclaredPage, FlagRowsMayKeepAKeyWithoutItsLeadingBAndTheirTicksThroughRe
     EXPECT_TRUE(list.Row(1).checked);
     EXPECT_FALSE(list.Row(2).checked);
     ASSERT_TRUE(Click("tlbFormToolbar", "SAVE"));
-    EXPECT_EQ(hub.ReadSetting("T/Filters.tbl"),
-              Crlf({"tFilters = {", "\tbKick = 1,", "\tbMute = 0,", "\tban = 1,", "\tb = 0,",
-                    "}"}));
+    EXPECT_EQ(
+        hub.ReadSetting("T/Filters.tbl"),
+        Crlf({"tFilters = {", "\tbKick = 1,", "\tbMute = 0,", "\tban = 1,", "\tb = 0,", "}"}));
 }
 
 TEST(RowDialogs, AnEditDialogWithoutItsAddButtonNeverEnablesIt) {
