@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "pages/pages.h"
+#include "support/area_rebuild.h"
 #include "support/page_harness.h"
 #include "support/temp_hub.h"
 
@@ -14,22 +15,9 @@ namespace {
 
 using test::Crlf;
 
-constexpr const char* kFolder = "Communication/";
-
-class CommunicationRebuild : public ::testing::Test {
+class CommunicationRebuild : public test::AreaRebuild {
   protected:
-    CommunicationRebuild() { RegisterAllBuilders(builders); }
-    void Rebuild(int profiles) {
-        store::BuildRun run{.files = files, .lastProfile = profiles - 2};
-        builders.BuildArea(store::Area::Communication, run);
-    }
-    std::string Read(const std::string& file) const { return hub.ReadSetting(kFolder + file); }
-    void Write(const std::string& file, const std::string& bytes) const {
-        hub.WriteSetting(kFolder + file, bytes);
-    }
-    test::TempHub hub;
-    store::TableFiles files{hub.ProgramFolder()};
-    store::BuilderRegistry builders;
+    CommunicationRebuild() : AreaRebuild(store::Area::Communication, "Communication/") {}
 };
 
 TEST_F(CommunicationRebuild, AFreshTreeHoldsEveryDefaultInTheBuildersOrder) {

@@ -8,6 +8,7 @@
 #include "pages/pages.h"
 #include "shell/container.h"
 #include "shell/scripted_host.h"
+#include "support/area_rebuild.h"
 #include "support/temp_hub.h"
 
 namespace qb::pages {
@@ -15,24 +16,9 @@ namespace {
 
 using test::Crlf;
 
-constexpr const char* kFolder = "CustomiseUser/";
-
-class CustomiseUserRebuild : public ::testing::Test {
+class CustomiseUserRebuild : public test::AreaRebuild {
   protected:
-    CustomiseUserRebuild() { RegisterAllBuilders(builders); }
-    void Rebuild(std::vector<std::string> names) {
-        store::BuildRun run{.files = files,
-                            .lastProfile = static_cast<int>(names.size()) - 2,
-                            .profileNames = std::move(names)};
-        builders.BuildArea(store::Area::CustomiseUser, run);
-    }
-    std::string Read(const std::string& file) const { return hub.ReadSetting(kFolder + file); }
-    void Write(const std::string& file, const std::string& bytes) const {
-        hub.WriteSetting(kFolder + file, bytes);
-    }
-    test::TempHub hub;
-    store::TableFiles files{hub.ProgramFolder()};
-    store::BuilderRegistry builders;
+    CustomiseUserRebuild() : AreaRebuild(store::Area::CustomiseUser, "CustomiseUser/") {}
 };
 
 TEST_F(CustomiseUserRebuild, AFreshTreeTagsEachProfileByItsNameAndMakesEveryListEmpty) {
