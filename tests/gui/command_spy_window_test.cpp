@@ -8,6 +8,7 @@
 
 #include "gui/main_window.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -93,5 +94,5 @@ class CommandSpyWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::CommandSpyWindowTest)
+QB_WINDOW_TEST(command_spy_window_test, qb::gui::CommandSpyWindowTest)
 #include "command_spy_window_test.moc"

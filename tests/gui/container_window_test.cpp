@@ -24,6 +24,7 @@
 #include "shell/text_editor.h"
 #include "support/stub_pages.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -337,5 +338,5 @@ class ContainerWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::ContainerWindowTest)
+QB_WINDOW_TEST(container_window_test, qb::gui::ContainerWindowTest)
 #include "container_window_test.moc"

@@ -11,6 +11,7 @@
 
 #include "gui/main_window.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -144,5 +145,5 @@ class GeneralPagesWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::GeneralPagesWindowTest)
+QB_WINDOW_TEST(general_pages_window_test, qb::gui::GeneralPagesWindowTest)
 #include "general_pages_window_test.moc"

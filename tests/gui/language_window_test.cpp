@@ -10,6 +10,7 @@
 #include "gui/main_window.h"
 #include "gui/qt_host.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -93,5 +94,5 @@ class LanguageWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::LanguageWindowTest)
+QB_WINDOW_TEST(language_window_test, qb::gui::LanguageWindowTest)
 #include "language_window_test.moc"

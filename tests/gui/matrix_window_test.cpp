@@ -12,6 +12,7 @@
 #include "gui/main_window.h"
 #include "gui/page_view.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -122,5 +123,5 @@ class MatrixWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::MatrixWindowTest)
+QB_WINDOW_TEST(matrix_window_test, qb::gui::MatrixWindowTest)
 #include "matrix_window_test.moc"

@@ -10,6 +10,7 @@
 #include "pages/pages.h"
 #include "support/fake_hub.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -74,5 +75,5 @@ class PortalWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::PortalWindowTest)
+QB_WINDOW_TEST(portal_window_test, qb::gui::PortalWindowTest)
 #include "portal_window_test.moc"

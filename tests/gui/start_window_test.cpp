@@ -12,6 +12,7 @@
 #include "shell/container.h"
 #include "support/temp_hub.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -97,5 +98,5 @@ class StartWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::StartWindowTest)
+QB_WINDOW_TEST(start_window_test, qb::gui::StartWindowTest)
 #include "start_window_test.moc"

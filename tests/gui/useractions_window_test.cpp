@@ -8,6 +8,7 @@
 
 #include "gui/main_window.h"
 #include "support/window_harness.h"
+#include "support/window_test_main.h"
 
 namespace qb::gui {
 
@@ -56,5 +57,5 @@ class UserActionsWindowTest : public QObject {
 
 }  // namespace qb::gui
 
-QTEST_MAIN(qb::gui::UserActionsWindowTest)
+QB_WINDOW_TEST(useractions_window_test, qb::gui::UserActionsWindowTest)
 #include "useractions_window_test.moc"
