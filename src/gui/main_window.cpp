@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
@@ -62,12 +63,23 @@ PageWindow::PageWindow(shell::Container& container, PageView* view)
     setWindowTitle(view->windowTitle());
     setObjectName(view->objectName());
     setWindowIcon(WindowIcon());
-    setMinimumSize(view->MinimumPixels());
-    // Opened at least wide enough for its whole caption; it may be made as small as the page's
-    // minimum.
+}
+
+void PageWindow::FitToPage() {
+    // The page was laid out for a smaller font than a desktop's: it opens at its own size or at
+    // the size of what it holds, whichever is larger, and is never made smaller than what it
+    // holds needs, so that nothing is cut. Sizes are known once the window stands in the area,
+    // with the style and the font applied to every widget of the page.
+    view_->ensurePolished();
+    const QSize frame = QMdiSubWindow::sizeHint() - view_->sizeHint();
+    setMinimumSize(view_->MinimumPixels().expandedTo(view_->minimumSizeHint() + frame));
+    // Opened at least wide enough for its whole caption.
     const int titleWidth = fontMetrics().horizontalAdvance(windowTitle()) +
                            4 * style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    resize(view->InitialPixels().expandedTo(view->MinimumPixels()).expandedTo({titleWidth, 0}));
+    resize(view_->InitialPixels()
+               .expandedTo(view_->sizeHint() + frame)
+               .expandedTo(minimumSize())
+               .expandedTo({titleWidth, 0}));
 }
 
 void PageWindow::CloseForGood() {
@@ -114,7 +126,6 @@ MainWindow::MainWindow(shell::Container& container) : container_(container), are
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
     splitter->setCollapsible(1, false);
-    splitter->setSizes({230, 900});
     setCentralWidget(splitter);
 
     BuildMenus();
@@ -134,6 +145,7 @@ MainWindow::MainWindow(shell::Container& container) : container_(container), are
         auto* view = new PageView(page);
         auto* window = new PageWindow(container_, view);
         area_->addSubWindow(window);
+        window->FitToPage();
         window->show();
     };
     container_.onPageActivated = [this](shell::Page& page) {
@@ -164,7 +176,28 @@ MainWindow::MainWindow(shell::Container& container) : container_(container), are
     });
 
     FillTree();
+    // The side bar opens wide enough for the tree with every node open, beside its scroll bar.
+    splitter->setSizes({std::max(230, FullTreeWidth()), 900});
     SyncWindowsMenu();
+}
+
+int MainWindow::FullTreeWidth() const {
+    int widest = 0;
+    for (QTreeWidgetItemIterator it(tvwFunctions_); *it; ++it) {
+        int depth = 1;  // the root is decorated too
+        for (const QTreeWidgetItem* parent = (*it)->parent(); parent != nullptr;
+             parent = parent->parent()) {
+            ++depth;
+        }
+        const int text = QFontMetrics((*it)->font(0)).horizontalAdvance((*it)->text(0));
+        widest = std::max(widest, depth * tvwFunctions_->indentation() + text);
+    }
+    const QMargins margins = picSideBar_->layout()->contentsMargins();
+    // The room an item keeps around its text, as the style draws it.
+    const int padding = 4 * tvwFunctions_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+    return widest + padding + 2 * tvwFunctions_->frameWidth() +
+           tvwFunctions_->verticalScrollBar()->sizeHint().width() + margins.left() +
+           margins.right();
 }
 
 MainWindow::~MainWindow() {
@@ -302,7 +335,14 @@ void MainWindow::BuildMenus() {
 void MainWindow::SyncWindowsMenu() {
     const auto& items = container_.WindowsMenu();
     for (size_t i = 0; i < windowsItems_.size(); ++i) {
-        windowsItems_[i]->setText(ToQt(items[i].caption));
+        // The entry's number carries its shortcut ("&3. "); the page's caption behind it shows
+        // as it stands.
+        const std::string& caption = items[i].caption;
+        const size_t name = caption.find(". ");
+        windowsItems_[i]->setText(name == std::string::npos
+                                      ? ToQtLiteral(caption)
+                                      : ToQt(caption.substr(0, name + 2)) +
+                                            ToQtLiteral(caption.substr(name + 2)));
         windowsItems_[i]->setData(ToQt(items[i].tag));
         windowsItems_[i]->setVisible(items[i].visible);
     }

@@ -29,6 +29,8 @@ class PageWindow : public QMdiSubWindow {
   public:
     PageWindow(shell::Container& container, PageView* view);
     PageView* View() const { return view_; }
+    // Sizes the window to its page, once it stands in the area.
+    void FitToPage();
     void CloseForGood();
 
   protected:
@@ -72,6 +74,8 @@ class MainWindow : public QMainWindow {
     void BuildSideBar();
     void BuildStatusBar();
     void FillTree();
+    // The width the tree needs to show every node whole with all of them open.
+    int FullTreeWidth() const;
     void SyncNavigation();
     void SyncWindowsMenu();
     void SyncStatus();

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCursor>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -15,6 +16,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTimer>
@@ -105,17 +107,33 @@ class ListBinding : public QTreeView {
         following_ = false;
     }
 
+    // As wide as the page laid the list out, and never narrower than its columns, so that a
+    // list whose columns fit shows them whole, with no scroll bar across.
+    QSize sizeHint() const override {
+        return {std::max(Pixels(list_.Width()), ColumnsWidth()), QTreeView::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override {
+        return {ColumnsWidth(), QTreeView::minimumSizeHint().height()};
+    }
+
   private:
+    int ColumnsWidth() const {
+        return columnsWidth_ + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    }
+
     void SyncColumns() {
+        columnsWidth_ = 0;
         for (int i = 0; i < list_.ColumnCount(); ++i) {
             int width = Pixels(list_.Columns()[static_cast<size_t>(i)].width);
             setColumnHidden(i, width == 0);
-            // The widths were laid out for a smaller font: a column is never narrower than what
-            // it shows.
-            if (width > 0 && i + 1 < list_.ColumnCount()) {
-                width = std::max(width, sizeHintForColumn(i));
-            }
-            if (width > 0) setColumnWidth(i, width);
+            if (width == 0) continue;
+            // The widths were laid out for a smaller font: a column is never narrower than its
+            // heading, nor, but for the last, which takes the room that is left, than what it
+            // shows.
+            width = std::max(width, header()->sectionSizeHint(i));
+            if (i + 1 < list_.ColumnCount()) width = std::max(width, sizeHintForColumn(i));
+            setColumnWidth(i, width);
+            columnsWidth_ += width;
         }
         // A list whose columns have no text shows no header, as a list with hidden headers.
         const auto& columns = list_.Columns();
@@ -124,6 +142,7 @@ class ListBinding : public QTreeView {
                         [](const shell::ListColumn& c) { return !c.text.empty(); }));
         SyncCommon(list_, this);
         FollowSelection(list_.Selected());
+        updateGeometry();
     }
 
     void FollowSelection(int row) {
@@ -139,18 +158,20 @@ class ListBinding : public QTreeView {
     shell::ListControl& list_;
     ListModel model_;
     bool following_ = false;
+    int columnsWidth_ = 0;
 };
 
-QWidget* Captioned(const shell::Control& control, QWidget* field) {
-    if (control.Caption().empty()) return field;
-    auto* box = new QWidget;
-    auto* layout = new QHBoxLayout(box);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto* label = new QLabel(ToQt(control.Caption()));
+// The label a text box, combo or up-down shows in front of itself, where it has a caption.
+QLabel* CaptionOf(const shell::Control& control, QWidget* field) {
+    if (control.Caption().empty()) return nullptr;
+    auto* label = new QLabel(ToQtLiteral(control.Caption()));
     label->setBuddy(field);
-    layout->addWidget(label);
-    layout->addWidget(field, 1);
-    return box;
+    return label;
+}
+
+// A spin box or a combo is as wide as what it holds; a text box takes the width it is given.
+Qt::Alignment FieldAlignment(const QWidget* field) {
+    return qobject_cast<const QLineEdit*>(field) != nullptr ? Qt::Alignment() : Qt::AlignLeft;
 }
 
 }  // namespace
@@ -165,6 +186,12 @@ PageView::PageView(shell::Page& page, QWidget* parent) : QWidget(parent), page_(
     auto& toolbar = const_cast<shell::Toolbar&>(page.FormToolbar());
     outer->addWidget(new ToolbarBinding(toolbar));
 
+    // An up-down shows its value itself: its read-only text box isn't drawn.
+    for (const auto& control : page.Controls()) {
+        if (control->Kind() == ControlKind::UpDown) {
+            buddies_.insert(static_cast<const shell::UpDown&>(*control).Buddy());
+        }
+    }
     auto& frame = const_cast<shell::Frame&>(page.FrameControl());
     auto* group = new QGroupBox(ToQt(frame.Caption()));
     group->setObjectName(QString::fromStdString(frame.Name()));
@@ -254,41 +281,115 @@ QSize PageView::InitialPixels() const {
     return {Pixels(page_.Size().width), Pixels(page_.Size().height)};
 }
 
-QLayout* PageView::BuildLayout(const shell::Layout& layout) {
-    using Type = shell::Layout::Type;
-    QBoxLayout* box = layout.type == Type::Row ? static_cast<QBoxLayout*>(new QHBoxLayout)
-                                               : static_cast<QBoxLayout*>(new QVBoxLayout);
-    for (const auto& item : layout.items) {
-        switch (item.type) {
-            case Type::Column:
-            case Type::Row:
-                box->addLayout(BuildLayout(item), item.weight);
-                break;
-            case Type::Stretch:
-                box->addStretch(1);
-                break;
-            case Type::Item: {
-                QWidget* widget = Build(*item.control);
-                // Lists and many-line texts take the room; a one-line box keeps its height.
-                const bool grows = item.control->Kind() == ControlKind::List ||
-                                   (item.control->Kind() == ControlKind::Text &&
-                                    static_cast<const shell::TextBox&>(*item.control).MultiLine());
-                box->addWidget(widget, item.weight > 0 ? item.weight : grows ? 1 : 0);
-                break;
-            }
-        }
-    }
-    return box;
+bool PageView::Hidden(const shell::Layout& item) const {
+    return item.type == shell::Layout::Type::Item && buddies_.contains(item.control->Name());
 }
 
-QWidget* PageView::Build(const shell::Control& constControl) {
+// Lists and many-line texts take the room; the other controls keep their height.
+int PageView::Share(const shell::Layout& item) {
+    if (item.weight > 0) return item.weight;
+    if (item.type != shell::Layout::Type::Item) return 0;
+    const shell::Control& control = *item.control;
+    const bool grows = control.Kind() == ControlKind::List ||
+                       (control.Kind() == ControlKind::Text &&
+                        static_cast<const shell::TextBox&>(control).MultiLine());
+    return grows ? 1 : 0;
+}
+
+PageView::Shown PageView::BuildItem(const shell::Layout& item) {
+    Shown shown = Build(*item.control);
+    // A frame holds the controls its part of the layout puts in it.
+    if (item.control->Kind() == ControlKind::Frame && !item.items.empty()) {
+        auto* inner = new QVBoxLayout;
+        for (const auto& part : item.items)
+            inner->addLayout(BuildLayout(part), Share(part));
+        shown.field->setLayout(inner);
+    }
+    return shown;
+}
+
+PageView::Shown PageView::LabelledField(const shell::Layout& row) {
+    std::vector<const shell::Layout*> shown;
+    for (const auto& item : row.items) {
+        if (!Hidden(item)) shown.push_back(&item);
+    }
+    if (shown.size() != 2 || shown[0]->type != shell::Layout::Type::Item ||
+        shown[1]->type != shell::Layout::Type::Item ||
+        shown[0]->control->Kind() != ControlKind::Label) {
+        return {};
+    }
+    const ControlKind kind = shown[1]->control->Kind();
+    const bool field = kind == ControlKind::Combo || kind == ControlKind::UpDown ||
+                       (kind == ControlKind::Text &&
+                        !static_cast<const shell::TextBox&>(*shown[1]->control).MultiLine());
+    if (!field || !shown[1]->control->Caption().empty()) return {};
+    auto* label = static_cast<QLabel*>(BuildItem(*shown[0]).field);
+    Shown value = BuildItem(*shown[1]);
+    label->setBuddy(value.field);
+    label->setText(ToQtLiteral(shown[0]->control->Caption()));
+    return {label, value.field};
+}
+
+QLayout* PageView::BuildLayout(const shell::Layout& layout) {
+    using Type = shell::Layout::Type;
+    if (layout.type == Type::Item || layout.type == Type::Stretch) {
+        return BuildLayout(shell::Column({layout}));
+    }
+    if (layout.type == Type::Row) {
+        auto* row = new QHBoxLayout;
+        for (const auto& item : layout.items) {
+            if (Hidden(item)) continue;
+            if (item.type == Type::Stretch) {
+                row->addStretch(1);
+            } else if (item.type != Type::Item) {
+                row->addLayout(BuildLayout(item), item.weight);
+            } else {
+                const Shown shown = BuildItem(item);
+                if (shown.label != nullptr) row->addWidget(shown.label);
+                row->addWidget(shown.field, Share(item));
+            }
+        }
+        return row;
+    }
+    // A column is a grid of two: the labels of its text boxes, combos and up-downs in the first,
+    // so that the fields start at one edge, and every other part across both.
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(1, 1);
+    int at = 0;
+    const auto place = [grid, &at](const Shown& shown, int share) {
+        if (shown.label != nullptr) {
+            grid->addWidget(shown.label, at, 0);
+            grid->addWidget(shown.field, at, 1, FieldAlignment(shown.field));
+        } else {
+            grid->addWidget(shown.field, at, 0, 1, 2);
+        }
+        grid->setRowStretch(at++, share);
+    };
+    for (const auto& item : layout.items) {
+        if (Hidden(item)) continue;
+        if (item.type == Type::Stretch) {
+            grid->setRowStretch(at++, 1);
+        } else if (item.type == Type::Item) {
+            place(BuildItem(item), Share(item));
+        } else if (const Shown pair = item.type == Type::Row ? LabelledField(item) : Shown{};
+                   pair.field != nullptr) {
+            place(pair, item.weight);
+        } else {
+            grid->addLayout(BuildLayout(item), at, 0, 1, 2);
+            grid->setRowStretch(at++, item.weight);
+        }
+    }
+    return grid;
+}
+
+PageView::Shown PageView::Build(const shell::Control& constControl) {
     // The page owns its controls; the view binds to them for the page's lifetime.
     auto& control = const_cast<shell::Control&>(constControl);
     bound_.push_back(&control);
     const QString name = QString::fromStdString(control.Name());
     switch (control.Kind()) {
         case ControlKind::List:
-            return new ListBinding(static_cast<shell::ListControl&>(control));
+            return {nullptr, new ListBinding(static_cast<shell::ListControl&>(control))};
         case ControlKind::Text: {
             auto& text = static_cast<shell::TextBox&>(control);
             if (text.MultiLine()) {
@@ -308,12 +409,16 @@ QWidget* PageView::Build(const shell::Control& constControl) {
                 connect(edit, &QPlainTextEdit::textChanged, edit, [&text, edit] {
                     Guard([&] { text.UserSetText(FromQtLines(edit->toPlainText())); });
                 });
-                return edit;
+                return {nullptr, edit};
             }
             auto* edit = new QLineEdit;
             edit->setObjectName(name);
             auto sync = [&text, edit] {
-                if (FromQt(edit->text()) != text.Text()) edit->setText(ToQt(text.Text()));
+                // A text put in by the page shows from its first character, however long.
+                if (FromQt(edit->text()) != text.Text()) {
+                    edit->setText(ToQt(text.Text()));
+                    edit->setCursorPosition(0);
+                }
                 edit->setReadOnly(text.ReadOnly());
                 SyncCommon(text, edit);
             };
@@ -322,7 +427,7 @@ QWidget* PageView::Build(const shell::Control& constControl) {
             connect(edit, &QLineEdit::textEdited, edit, [&text](const QString& value) {
                 Guard([&] { text.UserSetText(FromQt(value)); });
             });
-            return Captioned(text, edit);
+            return {CaptionOf(text, edit), edit};
         }
         case ControlKind::Check: {
             auto& check = static_cast<shell::CheckBox&>(control);
@@ -337,7 +442,7 @@ QWidget* PageView::Build(const shell::Control& constControl) {
             sync();
             connect(box, &QCheckBox::clicked, box,
                     [&check](bool on) { Guard([&] { check.UserSetValue(on ? 1 : 0); }); });
-            return box;
+            return {nullptr, box};
         }
         case ControlKind::Combo: {
             auto& combo = static_cast<shell::ComboBox&>(control);
@@ -356,7 +461,7 @@ QWidget* PageView::Build(const shell::Control& constControl) {
             connect(box, &QComboBox::activated, box, [&combo, box](int index) {
                 Guard([&] { combo.UserSetText(FromQt(box->itemText(index))); });
             });
-            return Captioned(combo, box);
+            return {CaptionOf(combo, box), box};
         }
         case ControlKind::UpDown: {
             auto& updown = static_cast<shell::UpDown&>(control);
@@ -373,18 +478,20 @@ QWidget* PageView::Build(const shell::Control& constControl) {
             sync();
             connect(spin, &QSpinBox::valueChanged, spin,
                     [&updown](int value) { Guard([&] { updown.UserSetValue(value); }); });
-            return Captioned(updown, spin);
+            return {CaptionOf(updown, spin), spin};
         }
         case ControlKind::Label: {
             auto* label = new QLabel;
             label->setObjectName(name);
             auto sync = [&control, label] {
-                label->setText(ToQt(control.Caption()));
+                // A label that names a field takes "&" as a shortcut mark; the captions don't.
+                label->setText(label->buddy() != nullptr ? ToQtLiteral(control.Caption())
+                                                         : ToQt(control.Caption()));
                 SyncCommon(control, label);
             };
             control.SetListener(sync);
             sync();
-            return label;
+            return {nullptr, label};
         }
         case ControlKind::Button: {
             auto& button = static_cast<shell::Button&>(control);
@@ -398,20 +505,20 @@ QWidget* PageView::Build(const shell::Control& constControl) {
             sync();
             connect(push, &QPushButton::clicked, push,
                     [&button] { Guard([&] { button.UserClick(); }); });
-            return push;
+            return {nullptr, push};
         }
         case ControlKind::Toolbar:
-            return new ToolbarBinding(static_cast<shell::Toolbar&>(control));
+            return {nullptr, new ToolbarBinding(static_cast<shell::Toolbar&>(control))};
         case ControlKind::Frame: {
             auto* group = new QGroupBox(ToQt(control.Caption()));
             group->setObjectName(name);
-            return group;
+            return {nullptr, group};
         }
         case ControlKind::StatusBar:
         case ControlKind::Tooltip:
             break;
     }
-    return new QWidget;
+    return {nullptr, new QWidget};
 }
 
 }  // namespace qb::gui

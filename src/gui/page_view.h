@@ -4,9 +4,12 @@
 // the model updates the widget, and the user's actions on the widget reach the page's handlers.
 
 #include <QWidget>
+#include <set>
+#include <string>
 
 #include "shell/page.h"
 
+class QLabel;
 class QLayout;
 
 namespace qb::gui {
@@ -22,12 +25,25 @@ class PageView : public QWidget {
     QSize InitialPixels() const;
 
   private:
+    // A control as the window draws it: its widget, and the label its caption makes, if any.
+    struct Shown {
+        QLabel* label = nullptr;
+        QWidget* field = nullptr;
+    };
+
     void ShowTooltip(const shell::Tooltip& tip);
-    QWidget* Build(const shell::Control& control);
+    Shown Build(const shell::Control& control);
+    Shown BuildItem(const shell::Layout& item);
+    // A row of a label and one field, which a column lines up with its captioned fields; an
+    // empty Shown for any other row.
+    Shown LabelledField(const shell::Layout& row);
     QLayout* BuildLayout(const shell::Layout& layout);
+    bool Hidden(const shell::Layout& item) const;
+    static int Share(const shell::Layout& item);
 
     shell::Page& page_;
     std::vector<shell::Control*> bound_;
+    std::set<std::string> buddies_;
 };
 
 }  // namespace qb::gui

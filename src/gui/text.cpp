@@ -38,4 +38,8 @@ std::string FromQtLines(const QString& text) {
     return FromQt(lines);
 }
 
+QString ToQtLiteral(const std::string& cp1252) {
+    return ToQt(cp1252).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 }  // namespace qb::gui

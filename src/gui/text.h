@@ -11,6 +11,10 @@ QString ToQt(const std::string& cp1252);
 // Characters Windows-1252 can't hold become '?'.
 std::string FromQt(const QString& text);
 
+// A text shown on a menu entry or a label with a buddy, where Qt takes "&" as a shortcut mark:
+// the pages' "Intros & Outros" shows its "&".
+QString ToQtLiteral(const std::string& cp1252);
+
 // Multi-line text: the files' CRLF line ends in the model, bare line feeds in a text widget.
 QString ToQtLines(const std::string& cp1252);
 std::string FromQtLines(const QString& text);

@@ -87,9 +87,9 @@ void ToolbarBinding::Rebuild() {
             menu->setObjectName(QString::fromStdString(key) + QStringLiteral("Menu"));
             for (const auto& entry : button.menu) {
                 const std::string menuKey = entry.key;
-                QAction* item = menu->addAction(ToQt(entry.text), this, [this, key, menuKey] {
-                    Guard([&] { toolbar_.UserMenuClick(key, menuKey); });
-                });
+                QAction* item = menu->addAction(
+                    ToQtLiteral(entry.text), this,
+                    [this, key, menuKey] { Guard([&] { toolbar_.UserMenuClick(key, menuKey); }); });
                 item->setData(QString::fromStdString(menuKey));
             }
             action->setMenu(menu);

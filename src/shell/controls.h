@@ -298,6 +298,10 @@ class UpDown : public Control {
     int Max() const { return max_; }
     int Step() const { return step_; }
     void SetRange(int min, int max);
+    // The read-only text box that shows the value, where the up-down has one: to the user the
+    // two are one control.
+    const std::string& Buddy() const { return buddy_; }
+    void SetBuddy(std::string textBox) { buddy_ = std::move(textBox); }
 
     std::function<void()> onChange;
     // The up-down keeps its value inside its range, as the control does.
@@ -308,6 +312,7 @@ class UpDown : public Control {
     int min_;
     int max_;
     int step_;
+    std::string buddy_;
 };
 
 class Label : public Control {

@@ -32,6 +32,10 @@ inline Layout Item(const Control& control) {
 inline Layout Item(std::string name) {
     return {Layout::Type::Item, {}, nullptr, 0, std::move(name)};
 }
+// A frame by its name, drawn around the controls of `inside`.
+inline Layout InFrame(std::string name, Layout inside) {
+    return {Layout::Type::Item, {std::move(inside)}, nullptr, 0, std::move(name)};
+}
 inline Layout Stretch() {
     return {Layout::Type::Stretch, {}, nullptr};
 }

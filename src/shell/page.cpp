@@ -44,8 +44,10 @@ void Page::MakeDeclared(const PageDecl& decl) {
         if (control.kind == ControlKind::UpDown) {
             const store::FileSchema* file = control.file ? control.file : files_.front();
             const store::Field* field = store::FindField(*file, control.key);
-            made = &Add<UpDown>(control.name, field->range->min, field->range->max,
-                                field->range->step);
+            auto& updown =
+                Add<UpDown>(control.name, field->range->min, field->range->max, field->range->step);
+            updown.SetBuddy(control.textBox);
+            made = &updown;
         } else {
             auto owned = MakeControl(control);
             made = owned.get();

@@ -1,7 +1,8 @@
-// Pictures of pages as the window shows them, for the developer's eye: the demo hub, rebuilt,
-// with the pages asked for open in the real window, each saved as a PNG.
+// Pictures of pages as the window shows them, for the developer's eye: a hub of four profiles,
+// rebuilt, with the pages asked for (every registered page without a key) opened in the real
+// window at the size a user first sees, each page's window saved as a PNG.
 //
-//   page_shots OUT_DIR KEY...
+//   page_shots OUT_DIR [KEY...]
 
 #include <QApplication>
 #include <QMdiSubWindow>
@@ -11,41 +12,35 @@
 #include <iostream>
 
 #include "gui/main_window.h"
-#include "pages/pages.h"
-#include "shell/startup.h"
 #include "support/window_harness.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    if (argc < 3) {
-        std::cerr << "usage: page_shots OUT_DIR KEY...\n";
+    if (argc < 2) {
+        std::cerr << "usage: page_shots OUT_DIR [KEY...]\n";
         return 2;
     }
     const std::filesystem::path out = argv[1];
     std::filesystem::create_directories(out);
     qb::test::WindowHarness harness;
-    harness.Hub().Write("cfg/Profiles.xml", qb::test::ProfilesXml(4));
-    harness.Load();
-    qb::store::BuilderRegistry builders;
-    qb::pages::RegisterAllBuilders(builders);
-    qb::store::BuildRun run{.files = harness.Container().Files(),
-                            .lastProfile = harness.Container().Profiles().LastNumber(),
-                            .profileNames = harness.Container().Profiles().Names()};
-    qb::shell::RebuildSettings(run, builders);
+    harness.LoadRebuilt(4);
     if (!harness.Show(QSize(1200, 800))) return 1;
-    for (int i = 2; i < argc; ++i) {
-        const std::string key = argv[i];
-        if (harness.Container().OpenFunctionPage(key) == nullptr) {
+    std::vector<std::string> keys(argv + 2, argv + argc);
+    if (keys.empty()) keys = harness.Registry().Keys();
+    for (const std::string& key : keys) {
+        if (harness.Container().Open(key) == nullptr) {
             std::cerr << key << ": no page\n";
             continue;
         }
-        if (auto* page = harness.PageWindowOf(key)) page->showMaximized();
-        QTest::qWait(200);
+        auto* page = harness.PageWindowOf(key);
+        if (page == nullptr) continue;  // the text editor page has no window of its own
+        QTest::qWait(100);
         std::string name = key;
         for (char& c : name)
             if (c == '~') c = '-';
-        harness.Window().grab().save(QString::fromStdString((out / (name + ".png")).string()));
+        page->grab().save(QString::fromStdString((out / (name + ".png")).string()));
         std::cout << (out / (name + ".png")).string() << "\n";
+        page->CloseForGood();
     }
     return 0;
 }

@@ -8,7 +8,9 @@
 #include <QtTest>
 #include <stdexcept>
 
+#include "hublink/qt/socket_sessions.h"
 #include "pages/pages.h"
+#include "shell/startup.h"
 
 namespace qb::test {
 namespace {
@@ -27,6 +29,20 @@ void WindowHarness::Load() {
     container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
     container_->FillNavigation();
     container_->LoadProfiles();
+}
+
+void WindowHarness::LoadRebuilt(int profiles) {
+    hub_.Write("cfg/Profiles.xml", ProfilesXml(profiles));
+    pages::PageServices services;
+    services.hubLink = hublink::SocketSessionsFactory();
+    pages::RegisterAllPages(registry_, services);
+    Load();
+    store::BuilderRegistry builders;
+    pages::RegisterAllBuilders(builders);
+    store::BuildRun run{.files = Container().Files(),
+                        .lastProfile = Container().Profiles().LastNumber(),
+                        .profileNames = Container().Profiles().Names()};
+    shell::RebuildSettings(run, builders);
 }
 
 bool WindowHarness::Show(QSize size) {

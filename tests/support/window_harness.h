@@ -37,6 +37,10 @@ class WindowHarness {
     // registered its own, the navigation is filled and the profiles are loaded, in the order
     // the program starts in.
     void Load();
+    // A hub of `profiles` profiles with every page registered, the portal's on real sockets that
+    // stay closed until a hub is ticked, loaded and rebuilt as a first start would: the pages
+    // then open over the files a hub owner first meets.
+    void LoadRebuilt(int profiles);
     // Makes the window over the loaded container (at `size` when one is given, before it shows,
     // so that the first layout is already the final one), makes it the parent of the host's
     // dialogs and shows it. True once it is on screen.

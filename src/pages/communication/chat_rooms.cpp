@@ -74,8 +74,9 @@ const shell::PageDecl& ChatRoomsPage() {
                          Check("chkDeleted", "tAnnounce.bDeleted", "Deletion"),
                          Check("chkSuspended", "tAnnounce.bSuspended", "Suspension")},
         };
-        shell::Layout top = shell::Row(
-            {shell::Column({Item("fraAnnounce"), Item("chkDeleted"), Item("chkSuspended")})});
+        shell::Layout top = shell::Row({shell::InFrame(
+            "fraAnnounce",
+            shell::Column({Item("chkDeleted"), Item("chkSuspended"), shell::Stretch()}))});
         shell::Layout bottom = shell::Row({});
         int label = 0;
         for (const RoomList& list : kRoomLists) {
