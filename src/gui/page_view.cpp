@@ -25,6 +25,7 @@
 #include <QToolTip>
 #include <QTreeView>
 #include <QVBoxLayout>
+#include <QValidator>
 
 #include "gui/fatal.h"
 #include "gui/icons.h"
@@ -159,6 +160,44 @@ class ListBinding : public QTreeView {
     ListModel model_;
     bool following_ = false;
     int columnsWidth_ = 0;
+};
+
+// An up-down and the read-only text box beside it, as one control: the box's text, which may
+// be a file's value outside the up-down's range or no value at all, with the up-down's arrows
+// attached. Only the arrows change the value, as the box takes no typing.
+class UpDownBox : public QSpinBox {
+  public:
+    UpDownBox(shell::UpDown& updown, const shell::TextBox* buddy) : updown_(updown), buddy_(buddy) {
+        lineEdit()->setReadOnly(buddy != nullptr);
+    }
+
+    void Sync() {
+        const QSignalBlocker block(this);
+        setRange(updown_.Min(), updown_.Max());
+        setSingleStep(updown_.Step());
+        setValue(updown_.Value());
+        // The same value may stand beside another text: show the text.
+        lineEdit()->setText(textFromValue(value()));
+        SyncCommon(updown_, this);
+    }
+
+  protected:
+    QString textFromValue(int value) const override {
+        if (buddy_ != nullptr && value == updown_.Value()) return ToQt(buddy_->Text());
+        return QSpinBox::textFromValue(value);
+    }
+    int valueFromText(const QString& text) const override {
+        if (buddy_ != nullptr && text == ToQt(buddy_->Text())) return updown_.Value();
+        return QSpinBox::valueFromText(text);
+    }
+    QValidator::State validate(QString& text, int& at) const override {
+        if (buddy_ != nullptr && text == ToQt(buddy_->Text())) return QValidator::Acceptable;
+        return QSpinBox::validate(text, at);
+    }
+
+  private:
+    shell::UpDown& updown_;
+    const shell::TextBox* buddy_;
 };
 
 // The label a text box, combo or up-down shows in front of itself, where it has a caption.
@@ -465,16 +504,15 @@ PageView::Shown PageView::Build(const shell::Control& constControl) {
         }
         case ControlKind::UpDown: {
             auto& updown = static_cast<shell::UpDown&>(control);
-            auto* spin = new QSpinBox;
+            auto* buddy = updown.Buddy().empty()
+                              ? nullptr
+                              : dynamic_cast<shell::TextBox*>(page_.Find(updown.Buddy()));
+            auto* spin = new UpDownBox(updown, buddy);
             spin->setObjectName(name);
-            auto sync = [&updown, spin] {
-                const QSignalBlocker block(spin);
-                spin->setRange(updown.Min(), updown.Max());
-                spin->setSingleStep(updown.Step());
-                spin->setValue(updown.Value());
-                SyncCommon(updown, spin);
-            };
+            const auto sync = [spin] { spin->Sync(); };
             updown.SetListener(sync);
+            // The text box isn't drawn: its text shows in the spin box.
+            if (buddy != nullptr) buddy->SetListener(sync);
             sync();
             connect(spin, &QSpinBox::valueChanged, spin,
                     [&updown](int value) { Guard([&] { updown.UserSetValue(value); }); });

@@ -30,6 +30,13 @@ std::string DefaultOfBound(const Binding& binding) {
     return binding.Field().defaultValue;
 }
 
+// An empty value is no value: a number the file lacks takes its default, so that the page never
+// writes a key without one.
+std::string NumberOrDefault(std::string value, const Binding& binding) {
+    if (value.empty() && binding.Field().kind == FieldKind::Number) return DefaultOfBound(binding);
+    return value;
+}
+
 int CheckValue(std::string_view value) {
     return store::IsNumericallyOne(value) ? 1 : 0;
 }
@@ -63,7 +70,7 @@ class TextBinding : public Binding {
         if (quirks_.initial) box_.SetText(*quirks_.initial);
         std::string value = ReadBound(files, *this);
         if (quirks_.initial && value.empty()) return;
-        box_.SetText(std::move(value));
+        box_.SetText(NumberOrDefault(std::move(value), *this));
     }
     void Restore(const store::ProfileList&) override { box_.SetText(DefaultOfBound(*this)); }
     std::string Value(int) const override { return box_.Text(); }
@@ -132,7 +139,7 @@ class SpinBinding : public Binding {
         if (quirks_.initial) Show(*quirks_.initial);
         std::string value = ReadBound(files, *this);
         if (quirks_.initial && value.empty()) return;
-        Show(std::move(value));
+        Show(NumberOrDefault(std::move(value), *this));
     }
     void Restore(const store::ProfileList&) override { Show(DefaultOfBound(*this)); }
     std::string Value(int) const override { return box_.Text(); }

@@ -170,6 +170,14 @@ void Page::RestoreDefaults() {
         binding->Restore(context_.profiles);
 }
 
+std::vector<std::string> Page::BoundKeys(const store::FileSchema& file) const {
+    std::vector<std::string> keys;
+    for (const auto& binding : bindings_) {
+        if (&binding->File() == &file) keys.push_back(binding->Key());
+    }
+    return keys;
+}
+
 std::string Page::BoundText(const store::FileSchema& file) const {
     // A list whose rows are the file's rows shapes the file first.
     std::vector<const Binding*> bound;
@@ -192,7 +200,9 @@ std::string Page::BoundText(const store::FileSchema& file) const {
         return nullptr;
     };
     const auto isBound = [&](const store::Field& field) {
-        if (field.kind != store::FieldKind::NamedFlags) return bindingOf(field, 0) != nullptr;
+        // A list bound to a whole sub-table writes it with the rows it holds, even with none.
+        if (bindingOf(field, -1) != nullptr) return true;
+        if (field.kind != store::FieldKind::NamedFlags) return false;
         for (size_t row = 0; row < field.rows.size(); ++row) {
             if (bindingOf(field, static_cast<int>(row)) != nullptr) return true;
         }

@@ -64,6 +64,12 @@ class Page {
     // Controls in the order the page made them; the status bar is among them.
     const std::vector<std::unique_ptr<Control>>& Controls() const { return controls_; }
     Control* Find(const std::string& name) const;
+    // The files SAVE writes from the page's declaration, in its order; a page with code of its
+    // own may write more.
+    const std::vector<const store::FileSchema*>& Files() const { return files_; }
+    // The keys of `file` the page's controls are bound to: a field, a sub-table's row as
+    // "tSub.bRow", or the file's own table where a list holds its rows.
+    std::vector<std::string> BoundKeys(const store::FileSchema& file) const;
     const Frame& FrameControl() const { return fraFrame; }
     const Toolbar& FormToolbar() const { return tlbFormToolbar; }
     const StatusBar& Status() const { return stsStatusBar; }

@@ -26,7 +26,9 @@ const shell::PageDecl& HubEmailPage() {
         .size = {3400, 1800},
         .files = {&HubEmailSettingsSchema()},
         .controls = {Label("lblLabel(0)", "Inbox Capacity"),
-                     Spin("txtUpDown", "updUpDown", "iInboxSize")},
+                     // No rebuild makes this file: until a save does, the capacity shows empty,
+                     // as it always has, rather than the default.
+                     With({.initial = ""}, Spin("txtUpDown", "updUpDown", "iInboxSize"))},
         .layout = shell::Column({shell::Row({Item("lblLabel(0)"), Item("txtUpDown"),
                                              Item("updUpDown"), shell::Stretch()}),
                                  shell::Stretch()}),

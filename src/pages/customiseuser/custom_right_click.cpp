@@ -175,8 +175,9 @@ class frmCustomiseUserCustomRightClick : public shell::Page {
         return stored;
     }
 
-    // What matches no profile's name, such as a number the hub no longer has, is written as it
-    // stands.
+    // A number that matches no profile's name, one the hub no longer has, is written as it
+    // stands; any other text, a hand-edited name or nothing at all, is written as text, so that
+    // the scripts can still load the file.
     std::string ProfileStored(const std::string& shown) const {
         if (shown == kOperators) return "\"ops\"";
         if (shown == kEveryone) return "\"all\"";
@@ -184,7 +185,7 @@ class frmCustomiseUserCustomRightClick : public shell::Page {
         for (size_t row = 0; row < names.size(); ++row) {
             if (names[row] == shown) return std::to_string(static_cast<int>(row) - 1);
         }
-        return shown;
+        return WholeNumber(shown) ? shown : "\"" + shown + "\"";
     }
 
     static std::string LocationShown(const std::string& stored) {

@@ -173,7 +173,8 @@ shell::RowEditorDecl LinesEditor(const IntroOutroKind& kind, const std::string& 
             .floor = 1,
             .floorPrompt = {"There must be a minimum of one " + line, "Cannot delete",
                             shell::Icon::Critical},
-            .selectFirstAfterDelete = true};
+            .selectFirstAfterDelete = true,
+            .deleteKey = true};
 }
 
 shell::ControlDecl LinesList(const IntroOutroKind& kind, const store::FileSchema& file,

@@ -88,7 +88,7 @@ class frmSecurityClientCheckerSettings : public shell::Page {
                                {"column2", "Min Version", kClientsWidth * 2 / 5 - kScrollBar},
                                {"column3", "Allow", kClientsWidth / 5}}),
                          Label("lblLabel(1)", "TimeBan"),
-                         With({.initial = "10"}, Spin("txtUpDown", "updUpDown", "iBanTime")),
+                         Spin("txtUpDown", "updUpDown", "iBanTime"),
                          Label("lblLabel(3)", "Action"),
                          With({.initial = "Kick", .showsUnlisted = true},
                               Combo("cboComboBox", "sAction")),
