@@ -18,6 +18,7 @@ Page::Page(PageContext& context, const PageDecl& decl)
       stsStatusBar(Add<StatusBar>("stsStatusBar")),
       key_(decl.key),
       caption_(decl.caption),
+      tag_(decl.tag),
       size_(decl.size),
       minimum_(decl.minimum.value_or(decl.size)),
       noRestore_(decl.noRestore),

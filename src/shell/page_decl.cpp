@@ -123,6 +123,7 @@ bool Fits(const ControlDecl& control, const store::FileSchema& file, const store
             return field.kind == FieldKind::String || field.kind == FieldKind::Number ||
                    field.kind == FieldKind::Flag;
         case ControlKind::Combo:
+            if (control.quirks.profileCombo) return field.kind == FieldKind::Number;
             return !field.choices.empty();
         case ControlKind::UpDown:
             return field.kind == FieldKind::Number && field.range.has_value();

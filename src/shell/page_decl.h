@@ -45,6 +45,16 @@ struct Quirks {
     // The rows RESTORE puts in are keyed "id" and their number ("id1", "id2"...); off, each is
     // keyed "id" alone.
     bool restoreKeysNumbered = true;
+    // The up-down's value when the page is made, before any read; the text box beside it shows
+    // only what the file holds, an empty value too.
+    std::optional<int> upDownStart{};
+    // A check box ticked by any value above 0, not by the numeral 1 alone.
+    bool ticksAboveZero = false;
+    // A combo of the hub's profiles past Unregistered, whose place in its list is the profile
+    // number the file holds. Each load adds the names again without clearing the list, so that
+    // after a save or a discard every name stands twice; the save takes the first profile of the
+    // name shown. A number the list can't show is shown and saved as it stands.
+    bool profileCombo = false;
 };
 
 // One control of a page.
@@ -199,6 +209,8 @@ struct PageDecl {
     // Where the controls stand, by name; without it, one below the other.
     std::optional<Layout> layout{};
     bool noRestore = false;
+    // The name the open window list knows the page by, where its caption isn't its key.
+    std::string tag{};
     // A discard that leaves the page clean, as a load does.
     bool discardClears = false;
     // SAVE makes its files' folders where no builder has made them, rather than fail.
