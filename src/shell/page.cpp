@@ -56,6 +56,12 @@ void Page::MakeDeclared(const PageDecl& decl) {
         if (control.kind == ControlKind::Toolbar && !control.setups.empty()) {
             toolbarSetups_.push_back({static_cast<Toolbar*>(made), control.setups});
         }
+        if (control.kind == ControlKind::Toolbar && !control.editsFile.empty()) {
+            static_cast<Toolbar*>(made)->onButtonClick =
+                [this, file = control.editsFile](const std::string&) {
+                    context_.host.OpenTextEditor(file, "E");
+                };
+        }
         if (control.kind == ControlKind::List && !control.columns.empty()) {
             listColumns_.push_back({static_cast<ListControl*>(made), control.columns});
         }

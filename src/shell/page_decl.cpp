@@ -107,6 +107,11 @@ ControlDecl Tipped(std::string tip, ControlDecl control) {
     return control;
 }
 
+ControlDecl Edits(std::string file, ControlDecl toolbar) {
+    toolbar.editsFile = std::move(file);
+    return toolbar;
+}
+
 }  // namespace decl
 
 namespace {

@@ -79,6 +79,8 @@ struct ControlDecl {
     bool multiLine = false;
     // A toolbar's buttons, set up when the page loads: SetupListToolbar and its like, in order.
     std::vector<void (*)(shell::Toolbar&)> setups{};
+    // A toolbar whose button opens the text editor on this file, to edit what it holds.
+    std::string editsFile{};
 };
 
 // The width of a list that fills a page of this width.
@@ -118,6 +120,8 @@ ControlDecl In(const store::FileSchema& file, ControlDecl control);
 ControlDecl With(Quirks quirks, ControlDecl control);
 // The same control with a tip the window shows over it.
 ControlDecl Tipped(std::string tip, ControlDecl control);
+// A toolbar whose button opens the text editor on `file`, below the settings folder.
+ControlDecl Edits(std::string file, ControlDecl toolbar);
 
 }  // namespace decl
 

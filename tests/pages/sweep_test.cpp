@@ -58,6 +58,15 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"UserActions~Spells~Settings", "the builder writes the delay before the wards flag"},
         {"UserActions~Insults~Medieval",
          "the builder names the third list tThreee, the page tThree"},
+        {"Security~AntiAdvertise~Addresses",
+         "the builder makes each list under the other's table; the page writes each its own"},
+        {"Security~Kicks~Settings", "the builder writes the numbers ahead of the flags"},
+        {"Security~Kicks~Permissions",
+         "the page writes KickCanTimeBan.tbl, which no rebuild makes: the builder's is TempBan"},
+        {"Security~PrivateHub", "the builder writes the five lists in an order of its own"},
+        {"Security~Registration",
+         "the builder writes the unregistered users' rows, which the page drops, and "
+         "iRegProfiles = 3 where the page writes iRegProfile"},
     };
     return pages;
 }
@@ -86,6 +95,9 @@ const std::map<std::string, std::string>& RestoreDiffers() {
          "RESTORE puts the default lines in; a rebuild makes the lists empty"},
         {"CustomiseUser~IntroOutro~Custom",
          "RESTORE puts the default lines in; a rebuild makes the lists empty"},
+        {"Security~ProfileRules~Settings",
+         "RESTORE unticks Log Redirects and sets the delay to 5; a rebuild ticks it and writes "
+         "no delay"},
     };
     return pages;
 }
