@@ -94,6 +94,9 @@ class PairListPage : public MatrixPage {
         const store::ProfileList& profiles = context_.profiles;
         const int first = matrix_.firstProfile;
         const std::vector<std::string> numbers = Numbers(first, profiles.LastNumber());
+        const size_t words = matrix_.passive != nullptr ? matrix_.passive->pageWords.size() : 0;
+        lvwMatrix.Reserve(
+            static_cast<int>(matrix_.commands.size() * numbers.size() * (numbers.size() + words)));
         int n = 0;
         for (const PairCommand& command : matrix_.commands) {
             const int commandRow = n + 1;
@@ -234,6 +237,7 @@ class PairFilteredPage : public MatrixPage {
     void Show() override {
         lvwMatrix.Clear();
         const int side = Side();
+        lvwMatrix.Reserve(static_cast<int>(cells_.size()));
         const std::string* lastCommand = nullptr;
         const std::string* lastBy = nullptr;
         int n = 0;
@@ -247,8 +251,10 @@ class PairFilteredPage : public MatrixPage {
                     const bool newBy = lastBy == nullptr || *lastBy != byName;
                     shell::ListRow& row =
                         lvwMatrix.Append(std::to_string(++n) + "ID", newCommand ? text : "");
-                    row.cells = {newBy ? byName : "", Name(on),
-                                 cells_[Cell(command, by, on)] != 0 ? Yes() : No()};
+                    row.cells.reserve(3);
+                    row.cells.emplace_back(newBy ? byName : std::string());
+                    row.cells.emplace_back(Name(on));
+                    row.cells.emplace_back(cells_[Cell(command, by, on)] != 0 ? Yes() : No());
                     lastCommand = &text;
                     lastBy = &byName;
                 }
