@@ -13,16 +13,7 @@ using namespace qb;
 
 // A hub of `rows` profile rows whose security area the rebuild has written.
 struct SecurityHub : test::PageHarness {
-    explicit SecurityHub(int rows) {
-        hub.Write("cfg/Profiles.xml", test::ProfilesXml(rows - 1));
-        container.LoadProfiles();
-        store::BuilderRegistry builders;
-        pages::RegisterAllBuilders(builders);
-        store::BuildRun run{.files = files,
-                            .lastProfile = container.Profiles().LastNumber(),
-                            .profileNames = container.Profiles().Names()};
-        builders.BuildArea(store::Area::Security, run);
-    }
+    explicit SecurityHub(int rows) { BuildFor(rows - 1, store::Area::Security); }
     // Opens the page, flips its first cell or edits its first row, saves and closes.
     void OpenChangeSave(const std::string& key, const char* toolbar) {
         shell::Page* page = container.Open(key);

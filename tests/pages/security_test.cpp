@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "pages/pages.h"
-#include "shell/scripted_host.h"
 #include "store/fatal_error.h"
 #include "support/area_rebuild.h"
 #include "support/page_harness.h"
@@ -216,30 +215,9 @@ TEST_F(SecurityRebuild, AProfileAddedKeepsValuesByNumberAndResetsWhatEachRebuild
 
 // ---- The pages ------------------------------------------------------------------------------
 
-// A scripted host that keeps each dialog as the page set it up.
-class RecordingHost : public shell::ScriptedHost {
-  public:
-    using ScriptedHost::ScriptedHost;
-    shell::DialogResult ShowDialog(const shell::DialogRequest& request) override {
-        requests.push_back(request);
-        return ScriptedHost::ShowDialog(request);
-    }
-    std::vector<shell::DialogRequest> requests;
-};
-
-class SecurityPages : public ::testing::Test {
+class SecurityPages : public ::testing::Test, protected test::PageHarness {
   protected:
-    SecurityPages() {
-        RegisterAllPages(registry);
-        hub.Write("cfg/Profiles.xml", test::ProfilesXml(2));
-        container.LoadProfiles();
-        store::BuilderRegistry builders;
-        RegisterAllBuilders(builders);
-        store::BuildRun run{.files = files,
-                            .lastProfile = container.Profiles().LastNumber(),
-                            .profileNames = container.Profiles().Names()};
-        builders.BuildArea(store::Area::Security, run);
-    }
+    SecurityPages() { BuildFor(2, store::Area::Security); }
     shell::Page& Open(const std::string& key) { return *container.OpenFunctionPage(key); }
     template <class C>
     static C& Get(const shell::Page& page, const char* name) {
@@ -267,13 +245,6 @@ class SecurityPages : public ::testing::Test {
         }
         return shown;
     }
-
-    test::TempHub hub;
-    store::TableFiles files{hub.ProgramFolder()};
-    std::ostringstream transcript;
-    RecordingHost host{transcript};
-    shell::PageRegistry registry;
-    shell::Container container{files, host, registry};
 };
 
 TEST_F(SecurityPages, EachRuleOpensItsOwnDialogOnTheRowsValue) {

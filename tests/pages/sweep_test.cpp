@@ -105,14 +105,7 @@ const std::map<std::string, std::string>& RestoreDiffers() {
 class Sweep : public ::testing::Test, protected test::PageHarness {
   protected:
     Sweep() {
-        hub.Write("cfg/Profiles.xml", test::ProfilesXml(4));
-        container.LoadProfiles();
-        store::BuilderRegistry builders;
-        RegisterAllBuilders(builders);
-        store::BuildRun run{.files = files,
-                            .lastProfile = container.Profiles().LastNumber(),
-                            .profileNames = container.Profiles().Names()};
-        shell::RebuildSettings(run, builders);
+        BuildFor(4);
         built_ = Tree();
     }
 

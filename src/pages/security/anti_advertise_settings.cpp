@@ -16,15 +16,8 @@ const store::FileSchema& AntiAdvertiseSettingsSchema() {
                 {FieldKind::Flag, "bEnableIPBlock", "1"},
                 {FieldKind::Flag, "bSilentMode", "1"},
                 {FieldKind::Flag, "bAllowToOps", "1"},
-                {.kind = FieldKind::Number,
-                 .key = "iTempBanTime",
-                 .defaultValue = "60",
-                 .range = store::Range{1, 1440, 5}},
-                // The code of "TempBan".
-                {.kind = FieldKind::String,
-                 .key = "sAction",
-                 .defaultValue = "T",
-                 .choices = ActionChoices()},
+                BanTimeField("iTempBanTime"),
+                ActionField(),
                 {FieldKind::ProfileChecks, "tBlockedProfiles", "0"},
             },
     };
