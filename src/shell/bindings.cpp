@@ -44,13 +44,21 @@ int CheckValue(std::string_view value) {
 // ---- Scalars
 // -------------------------------------------------------------------------------------
 
+// Any number above 0, in the numeric reading of the scripts' home system.
+int AboveZero(std::string_view value) {
+    double number = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+    return error == std::errc() && end == value.data() + value.size() && number > 0 ? 1 : 0;
+}
+
 class CheckBinding : public Binding {
   public:
     CheckBinding(const store::FileSchema& file, const store::Field& field, std::string key,
-                 CheckBox& box)
-        : Binding(file, field, std::move(key)), box_(box) {}
+                 CheckBox& box, bool aboveZero)
+        : Binding(file, field, std::move(key)), box_(box), aboveZero_(aboveZero) {}
     void Load(store::TableFiles& files, const store::ProfileList&) override {
-        box_.SetValue(CheckValue(ReadBound(files, *this)));
+        const std::string value = ReadBound(files, *this);
+        box_.SetValue(aboveZero_ ? AboveZero(value) : CheckValue(value));
     }
     void Restore(const store::ProfileList&) override {
         box_.SetValue(CheckValue(DefaultOfBound(*this)));
@@ -59,6 +67,7 @@ class CheckBinding : public Binding {
 
   private:
     CheckBox& box_;
+    bool aboveZero_;
 };
 
 class TextBinding : public Binding {
@@ -125,6 +134,50 @@ class ComboBinding : public Binding {
     Quirks quirks_;
 };
 
+// The hub's profiles past Unregistered, at the place of their number. The page has always added
+// them at each load over those it had, and looks a name up by the first profile of that name.
+class ProfileComboBinding : public Binding {
+  public:
+    ProfileComboBinding(const store::FileSchema& file, const store::Field& field, std::string key,
+                        ComboBox& combo)
+        : Binding(file, field, std::move(key)), combo_(combo) {}
+
+    void Load(store::TableFiles& files, const store::ProfileList& profiles) override {
+        profiles_ = &profiles;
+        for (int row = 2; row <= profiles.Count(); ++row)
+            combo_.AddItem(profiles.Text(row));
+        // A missing number is the list's first place.
+        std::string number = ReadBound(files, *this);
+        if (number.empty()) number = "0";
+        int place = -1;
+        const auto [end, error] =
+            std::from_chars(number.data(), number.data() + number.size(), place);
+        const auto& items = combo_.Items();
+        if (error == std::errc() && end == number.data() + number.size() && place >= 0 &&
+            place < static_cast<int>(items.size())) {
+            combo_.SetText(items[static_cast<size_t>(place)]);
+            return;
+        }
+        combo_.SetListOnly(false);
+        combo_.SetText(number);
+        combo_.SetListOnly(true);
+    }
+    // RESTORE leaves the choice as it stands.
+    void Restore(const store::ProfileList&) override {}
+    std::string Value(int) const override {
+        if (profiles_ != nullptr) {
+            for (int row = 1; row <= profiles_->Count(); ++row) {
+                if (profiles_->Text(row) == combo_.Text()) return std::to_string(row - 2);
+            }
+        }
+        return combo_.Text();
+    }
+
+  private:
+    ComboBox& combo_;
+    const store::ProfileList* profiles_ = nullptr;
+};
+
 // The text box shows the number as the file has it; the up-down follows where it can. Only the
 // up-down is held to the range, so a file's value outside it shows and saves as it stands.
 class SpinBinding : public Binding {
@@ -134,7 +187,9 @@ class SpinBinding : public Binding {
         : Binding(file, field, std::move(key)),
           upDown_(upDown),
           box_(box),
-          quirks_(std::move(quirks)) {}
+          quirks_(std::move(quirks)) {
+        if (quirks_.upDownStart) upDown_.SetValue(*quirks_.upDownStart);
+    }
     void Load(store::TableFiles& files, const store::ProfileList&) override {
         if (quirks_.initial) Show(*quirks_.initial);
         std::string value = ReadBound(files, *this);
@@ -369,11 +424,16 @@ std::unique_ptr<Binding> Bind(const ControlDecl& decl, const store::FileSchema* 
     switch (control.Kind()) {
         case ControlKind::Check:
             return std::make_unique<CheckBinding>(*file, field, decl.key,
-                                                  static_cast<CheckBox&>(control));
+                                                  static_cast<CheckBox&>(control),
+                                                  decl.quirks.ticksAboveZero);
         case ControlKind::Text:
             return std::make_unique<TextBinding>(*file, field, decl.key,
                                                  static_cast<TextBox&>(control), decl.quirks);
         case ControlKind::Combo:
+            if (decl.quirks.profileCombo) {
+                return std::make_unique<ProfileComboBinding>(*file, field, decl.key,
+                                                             static_cast<ComboBox&>(control));
+            }
             return std::make_unique<ComboBinding>(*file, field, decl.key,
                                                   static_cast<ComboBox&>(control), decl.quirks);
         case ControlKind::UpDown:

@@ -94,6 +94,8 @@ class ListControl : public Control {
     void SetColumnWidth(int column, int width);
 
     void Clear();
+    // Room for this many rows, for a list about to be filled with a great many.
+    void Reserve(int rows) { rows_.reserve(static_cast<size_t>(rows)); }
     int Count() const { return static_cast<int>(rows_.size()); }
     // Inserts a row at `index` (1 to Count()+1) and returns it.
     ListRow& Add(int index, std::string key, std::string text);

@@ -18,6 +18,7 @@ Page::Page(PageContext& context, const PageDecl& decl)
       stsStatusBar(Add<StatusBar>("stsStatusBar")),
       key_(decl.key),
       caption_(decl.caption),
+      tag_(decl.tag),
       size_(decl.size),
       minimum_(decl.minimum.value_or(decl.size)),
       noRestore_(decl.noRestore),
@@ -56,6 +57,12 @@ void Page::MakeDeclared(const PageDecl& decl) {
         if (!control.tip.empty()) made->SetTip(control.tip);
         if (control.kind == ControlKind::Toolbar && !control.setups.empty()) {
             toolbarSetups_.push_back({static_cast<Toolbar*>(made), control.setups});
+        }
+        if (control.kind == ControlKind::Toolbar && !control.editsFile.empty()) {
+            static_cast<Toolbar*>(made)->onButtonClick =
+                [this, file = control.editsFile](const std::string&) {
+                    context_.host.OpenTextEditor(file, "E");
+                };
         }
         if (control.kind == ControlKind::List && !control.columns.empty()) {
             listColumns_.push_back({static_cast<ListControl*>(made), control.columns});

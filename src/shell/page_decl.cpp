@@ -107,6 +107,11 @@ ControlDecl Tipped(std::string tip, ControlDecl control) {
     return control;
 }
 
+ControlDecl Edits(std::string file, ControlDecl toolbar) {
+    toolbar.editsFile = std::move(file);
+    return toolbar;
+}
+
 }  // namespace decl
 
 namespace {
@@ -123,6 +128,7 @@ bool Fits(const ControlDecl& control, const store::FileSchema& file, const store
             return field.kind == FieldKind::String || field.kind == FieldKind::Number ||
                    field.kind == FieldKind::Flag;
         case ControlKind::Combo:
+            if (control.quirks.profileCombo) return field.kind == FieldKind::Number;
             return !field.choices.empty();
         case ControlKind::UpDown:
             return field.kind == FieldKind::Number && field.range.has_value();

@@ -45,6 +45,16 @@ struct Quirks {
     // The rows RESTORE puts in are keyed "id" and their number ("id1", "id2"...); off, each is
     // keyed "id" alone.
     bool restoreKeysNumbered = true;
+    // The up-down's value when the page is made, before any read; the text box beside it shows
+    // only what the file holds, an empty value too.
+    std::optional<int> upDownStart{};
+    // A check box ticked by any value above 0, not by the numeral 1 alone.
+    bool ticksAboveZero = false;
+    // A combo of the hub's profiles past Unregistered, whose place in its list is the profile
+    // number the file holds. Each load adds the names again without clearing the list, so that
+    // after a save or a discard every name stands twice; the save takes the first profile of the
+    // name shown. A number the list can't show is shown and saved as it stands.
+    bool profileCombo = false;
 };
 
 // One control of a page.
@@ -69,6 +79,8 @@ struct ControlDecl {
     bool multiLine = false;
     // A toolbar's buttons, set up when the page loads: SetupListToolbar and its like, in order.
     std::vector<void (*)(shell::Toolbar&)> setups{};
+    // A toolbar whose button opens the text editor on this file, to edit what it holds.
+    std::string editsFile{};
 };
 
 // The width of a list that fills a page of this width.
@@ -108,6 +120,8 @@ ControlDecl In(const store::FileSchema& file, ControlDecl control);
 ControlDecl With(Quirks quirks, ControlDecl control);
 // The same control with a tip the window shows over it.
 ControlDecl Tipped(std::string tip, ControlDecl control);
+// A toolbar whose button opens the text editor on `file`, below the settings folder.
+ControlDecl Edits(std::string file, ControlDecl toolbar);
 
 }  // namespace decl
 
@@ -199,6 +213,8 @@ struct PageDecl {
     // Where the controls stand, by name; without it, one below the other.
     std::optional<Layout> layout{};
     bool noRestore = false;
+    // The name the open window list knows the page by, where its caption isn't its key.
+    std::string tag{};
     // A discard that leaves the page clean, as a load does.
     bool discardClears = false;
     // SAVE makes its files' folders where no builder has made them, rather than fail.

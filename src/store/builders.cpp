@@ -51,6 +51,10 @@ std::string SubTableOf(const FileSchema& schema, const Field& field) {
                : schema.table;
 }
 
+const std::string& BuilderDefault(const Field& field) {
+    return field.builderDefault ? *field.builderDefault : field.defaultValue;
+}
+
 }  // namespace
 
 std::string BuildRun::ProfileName(int number) const {
@@ -66,7 +70,7 @@ std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema) {
 
 void BuildFile(const FileSchema& schema, BuildRun& run) {
     const std::string path = BuilderReadPath(run.files, schema);
-    const auto byDefault = [](const Field& field, int) { return field.defaultValue; };
+    const auto byDefault = [](const Field& field, int) { return BuilderDefault(field); };
     std::string text;
     switch (schema.kind) {
         case FileKind::Data:
@@ -86,10 +90,10 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
             text = Write(
                 schema, run,
                 [&](const Field& field, int row) {
-                    if (field.resetByRebuild) return field.defaultValue;
+                    if (field.resetByRebuild) return BuilderDefault(field);
                     std::string value = run.files.ReadTableValue(path, OldKey(field, row),
                                                                  SubTableOf(schema, field));
-                    return value.empty() ? field.defaultValue : value;
+                    return value.empty() ? BuilderDefault(field) : value;
                 },
                 [&](const Field& field) {
                     return field.resetByRebuild ? std::vector<ListEntry>{}

@@ -43,4 +43,37 @@ bool LineReader::Next(std::string& line) {
     return true;
 }
 
+void LineReader::ReadAll(std::vector<std::string>& lines, size_t most) {
+    std::string pending;  // a line not ended yet
+    bool afterReturn =
+        false;  // the last chunk ended with a carriage return: a line feed may follow
+    char buffer[1 << 16];
+    while (lines.size() < most) {
+        const size_t got = std::fread(buffer, 1, sizeof buffer, file_);
+        if (got == 0) break;
+        size_t at = 0;
+        if (afterReturn && buffer[0] == '\n') at = 1;
+        afterReturn = false;
+        size_t start = at;
+        for (; at < got && lines.size() < most; ++at) {
+            const char c = buffer[at];
+            if (c != '\n' && c != '\r') continue;
+            pending.append(buffer + start, at - start);
+            lines.push_back(std::move(pending));
+            pending.clear();
+            if (c == '\r') {
+                if (at + 1 == got) {
+                    afterReturn = true;
+                } else if (buffer[at + 1] == '\n') {
+                    ++at;
+                }
+            }
+            start = at + 1;
+        }
+        if (lines.size() >= most) return;
+        pending.append(buffer + start, got - start);
+    }
+    if (!pending.empty() && lines.size() < most) lines.push_back(std::move(pending));
+}
+
 }  // namespace qb::store

@@ -3,6 +3,7 @@
 // a carriage return plus line feed, and, since hub files written on Linux have no carriage returns,
 // at a lone line feed. Bytes are handed out untouched, NUL bytes included.
 
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -47,6 +48,9 @@ class LineReader : public LineSource {
     LineReader& operator=(const LineReader&) = delete;
 
     bool Next(std::string& line) override;
+    // The lines left, at most `most` of them, ended as Next ends them: a file at once, for a
+    // read scope.
+    void ReadAll(std::vector<std::string>& lines, size_t most = SIZE_MAX);
 
   private:
     explicit LineReader(std::FILE* file) : file_(file) {}

@@ -51,11 +51,21 @@ void ListRow(TableText& text, const Field& field, int depth, int number, const L
 std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldValue& valueOf,
                         Writer writer, const FieldFilter& keep, const FieldRows& rowsOf) {
     const WriterForm& form = writer == Writer::Builder ? schema.builderForm : schema.pageForm;
-    TableText text(schema.table + " = {" + form.headerTail);
+    TableText text((form.table.empty() ? schema.table : form.table) + " = {" + form.headerTail);
+    std::string parent;  // the sub-table open around the keys
     for (const Field* field : InOrder(schema, form)) {
         if (keep && !keep(*field)) continue;
+        if (field->parent != parent) {
+            if (!parent.empty()) text.Close(1);
+            if (!field->parent.empty()) text.Open(1, field->parent);
+            parent = field->parent;
+        }
         const auto custom = form.lines.find(field->key);
-        const LineForm line = custom == form.lines.end() ? LineForm{} : custom->second;
+        LineForm line = custom == form.lines.end() ? LineForm{} : custom->second;
+        if (!parent.empty()) {
+            ++line.depth;
+            ++line.rowDepth;
+        }
         const std::string& key = line.name.empty() ? field->key : line.name;
         switch (field->kind) {
             case FieldKind::Flag:
@@ -100,6 +110,7 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
             }
         }
     }
+    if (!parent.empty()) text.Close(1);
     return text.End();
 }
 

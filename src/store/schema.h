@@ -75,6 +75,13 @@ struct Field {
     std::optional<std::string> rowValue{};
     // Profile checks whose rows start at this number, not at -1 (Unregistered has no row).
     int firstProfile = -1;
+    // The sub-table the key stands in, where it isn't the file's own table: the writers open it
+    // before the first of its keys and close it after the last, and its lines go a tab deeper.
+    // The readers never leave a table, so the key reads alike wherever it stands.
+    std::string parent{};
+    // What the builder takes for an empty value where it asks its defaults under another key
+    // than RESTORE does; without it both take `defaultValue`.
+    std::optional<std::string> builderDefault{};
 };
 
 // What a rebuild does to a file that exists already.
@@ -98,6 +105,7 @@ struct LineForm {
 // A writer's own layout of the file; the default is the common form of every field.
 struct WriterForm {
     std::vector<std::string> order{};         // the keys in this writer's order; empty: the fields'
+    std::string table{};                      // the header's table, where this writer names another
     std::string headerTail{};                 // text behind the header's brace
     std::map<std::string, LineForm> lines{};  // by key, the lines laid out otherwise
 };

@@ -94,6 +94,9 @@ std::string TableFiles::Resolve(std::string_view file, bool inAppFolder, bool dr
 struct TableFiles::CachedFile {
     int error = 0;  // why the file couldn't be opened, or 0
     std::vector<std::string> lines;
+    // All the file's lines, or only the first kLineLimit, which is as far as a one-key read goes:
+    // a matrix file holds ten times as many.
+    bool whole = false;
     std::unique_ptr<ValueIndex> index;  // built at the first one-key read
 };
 
@@ -104,6 +107,7 @@ TableFiles::ReadScope::ReadScope(TableFiles& files) : files_(files), counted_(fi
 
 TableFiles::ReadScope::~ReadScope() {
     if (counted_ && --files_.scopes_ == 0) {
+        files_.lastCached_ = nullptr;
         files_.cache_.clear();
         files_.natives_.clear();
     }
@@ -123,25 +127,26 @@ std::string TableFiles::NativeOf(const std::string& path) {
 }
 
 void TableFiles::Forget(const std::string& native) {
+    lastCached_ = nullptr;
     cache_.erase(native);
     // A new file or folder may now match a name that matched nothing.
     natives_.clear();
 }
 
-TableFiles::CachedFile* TableFiles::Cached(const std::string& path) {
+TableFiles::CachedFile* TableFiles::Cached(const std::string& path, bool whole) {
     const std::string native = NativeOf(path);
     auto& entry = cache_[native];
-    if (!entry) {
-        entry = std::make_unique<CachedFile>();
-        int error = 0;
-        auto reader = native.empty() ? nullptr : LineReader::Open(native, error);
-        if (reader) {
-            std::string line;
-            while (reader->Next(line))
-                entry->lines.push_back(line);
-        } else {
-            entry->error = native.empty() ? ENOENT : error;
-        }
+    if (entry && (entry->whole || !whole || entry->error != 0)) return entry.get();
+    if (!entry) entry = std::make_unique<CachedFile>();
+    entry->lines.clear();
+    int error = 0;
+    auto reader = native.empty() ? nullptr : LineReader::Open(native, error);
+    if (reader) {
+        const size_t most = whole ? SIZE_MAX : static_cast<size_t>(kLineLimit);
+        reader->ReadAll(entry->lines, most);
+        entry->whole = entry->lines.size() < most;
+    } else {
+        entry->error = native.empty() ? ENOENT : error;
     }
     return entry.get();
 }
@@ -168,13 +173,19 @@ std::unique_ptr<LineSource> TableFiles::OpenLines(const std::string& path, int& 
 
 std::string TableFiles::ReadTableValue(std::string_view file, std::string_view key,
                                        std::string_view table, bool inAppFolder) {
-    const std::string path = Resolve(file, inAppFolder, true);
     if (scopes_ > 0 && !slotStuck_) {
-        CachedFile* cached = Cached(path);
+        CachedFile* cached = lastCached_;
+        if (cached == nullptr || inAppFolder != lastInAppFolder_ || file != lastFile_) {
+            cached = Cached(Resolve(file, inAppFolder, true), false);
+            lastFile_ = file;
+            lastInAppFolder_ = inAppFolder;
+            lastCached_ = cached;
+        }
         if (cached->error != 0) return {};
         if (!cached->index) cached->index = std::make_unique<ValueIndex>(cached->lines);
         return cached->index->Find(key, table);
     }
+    const std::string path = Resolve(file, inAppFolder, true);
     int error = 0;
     auto lines = OpenLines(path, error);
     return lines ? ScanTableValue(*lines, key, table) : std::string();
@@ -271,14 +282,16 @@ void TableFiles::WriteTextFile(std::string_view file, std::string_view text, boo
         ::unlink(temp.c_str());
         throw FatalError(shown, Reason(err));
     };
-    std::string bytes(text);
-    bytes += "\r\n";
-    size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) fail(n < 0 ? errno : ENOSPC);
-        done += static_cast<size_t>(n);
+    // The text, then the one line break behind it; a matrix file's text is megabytes, too much
+    // to copy for the sake of two bytes.
+    for (const std::string_view bytes : {text, std::string_view("\r\n")}) {
+        size_t done = 0;
+        while (done < bytes.size()) {
+            const ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0) fail(n < 0 ? errno : ENOSPC);
+            done += static_cast<size_t>(n);
+        }
     }
     if (::fchmod(fd, existed ? (old.st_mode & 07777) : DefaultFileMode()) != 0) fail(errno);
     if (::close(fd) != 0) {
@@ -313,6 +326,7 @@ void TableFiles::CreateFolder(std::string_view path) {
     }
     std::error_code ec;
     if (!fs::is_directory(*native, ec)) throw FatalError(native->string(), Reason(ENOTDIR));
+    lastCached_ = nullptr;
     natives_.clear();
 }
 

@@ -121,7 +121,8 @@ class TableFiles {
     // The lines of a file for a reader: from the disk, or from the scope's copy. Null with the
     // system's reason when the file can't be opened.
     std::unique_ptr<LineSource> OpenLines(const std::string& path, int& error);
-    CachedFile* Cached(const std::string& path);
+    // The file as a scope keeps it; `whole` for the readers that go past line 5000.
+    CachedFile* Cached(const std::string& path, bool whole = true);
     std::string NativeOf(const std::string& path);
     void Forget(const std::string& native);
 
@@ -132,6 +133,11 @@ class TableFiles {
     bool indexing_ = true;
     std::unordered_map<std::string, std::string> natives_;  // script path -> Linux path
     std::unordered_map<std::string, std::unique_ptr<CachedFile>> cache_;  // by Linux path
+    // The file the last one-key read in a scope asked, as it was named: a page asks one file for
+    // thousands of keys in a row.
+    std::string lastFile_;
+    bool lastInAppFolder_ = false;
+    CachedFile* lastCached_ = nullptr;
 };
 
 // A number in general decimal form, as row keys carry it.

@@ -11,16 +11,27 @@ TableText& TableText::Line(int depth, std::string_view text) {
     return *this;
 }
 
+// The lines are appended piece by piece: a matrix file has tens of thousands of them.
 TableText& TableText::Bare(int depth, std::string_view key, std::string_view value) {
-    return Line(depth, std::string(key) + " = " + std::string(value) + ",");
+    Line(depth, key);
+    text_ += " = ";
+    text_ += value;
+    text_ += ',';
+    return *this;
 }
 
 TableText& TableText::Quoted(int depth, std::string_view key, std::string_view value) {
-    return Line(depth, std::string(key) + " = \"" + std::string(value) + "\",");
+    Line(depth, key);
+    text_ += " = \"";
+    text_ += value;
+    text_ += "\",";
+    return *this;
 }
 
 TableText& TableText::Open(int depth, std::string_view name) {
-    return Line(depth, std::string(name) + " = {");
+    Line(depth, name);
+    text_ += " = {";
+    return *this;
 }
 
 TableText& TableText::Close(int depth) {
@@ -28,12 +39,17 @@ TableText& TableText::Close(int depth) {
 }
 
 TableText& TableText::Row(int depth, int number, std::string_view value) {
-    return Line(depth, "[" + std::to_string(number) + "] = " + std::string(value) + ",");
+    Line(depth, "[");
+    text_ += std::to_string(number);
+    text_ += "] = ";
+    text_ += value;
+    text_ += ',';
+    return *this;
 }
 
 std::string TableText::End() {
     Line(0, "}");
-    return text_;
+    return std::move(text_);
 }
 
 }  // namespace qb::store

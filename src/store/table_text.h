@@ -22,7 +22,7 @@ class TableText {
     TableText& Close(int depth);                                                 // },
     TableText& Row(int depth, int number, std::string_view value);               // [n] = value,
 
-    // The text with the end line "}" behind it.
+    // The text with the end line "}" behind it, handed over: the writer is done with it.
     std::string End();
     // The text as it stands, with no end line.
     const std::string& Text() const { return text_; }

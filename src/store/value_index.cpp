@@ -28,11 +28,11 @@ ValueIndex::ValueIndex(const std::vector<std::string>& lines) {
 }
 
 std::string ValueIndex::Find(std::string_view key, std::string_view table) const {
-    const auto found = values_.find(std::string(key));
+    const auto found = values_.find(key);
     if (found == values_.end()) return {};
     int after = 0;  // with no table the whole file is in the table
     if (!table.empty()) {
-        const auto header = headers_.find(std::string(table));
+        const auto header = headers_.find(table);
         if (header == headers_.end()) return {};
         after = header->second;
     }

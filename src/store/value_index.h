@@ -18,14 +18,24 @@ class ValueIndex {
     std::string Find(std::string_view key, std::string_view table) const;
 
   private:
+    // Keys are looked up as they come, without a copy.
+    struct TextHash {
+        using is_transparent = void;
+        size_t operator()(std::string_view text) const {
+            return std::hash<std::string_view>{}(text);
+        }
+    };
+    template <class T>
+    using ByText = std::unordered_map<std::string, T, TextHash, std::equal_to<>>;
+
     struct Occurrence {
         int line;
         std::string value;
     };
     // Where each table's header first stands: the scan looks at keys after it.
-    std::unordered_map<std::string, int> headers_;
+    ByText<int> headers_;
     // Each key's value lines in file order.
-    std::unordered_map<std::string, std::vector<Occurrence>> values_;
+    ByText<std::vector<Occurrence>> values_;
 };
 
 }  // namespace qb::store

@@ -26,9 +26,12 @@ namespace {
 namespace fs = std::filesystem;
 using test::Crlf;
 
-// Files the scripts' own design leaves unloadable by Lua, by name, with the reason. None of the
-// files written so far is.
-const std::map<std::string, std::string> kNotLua = {};
+// Files the scripts' own design leaves unloadable by Lua, by name, with the reason.
+const std::map<std::string, std::string> kNotLua = {
+    {"ProfileRuleSettings.tbl",
+     "the builder asks its defaults for the check delay under a key they lack and writes "
+     "\"iCheckDelay = ,\""},
+};
 
 // A row of a plain list of strings is Lua's entry at its place in the list, and the pages read
 // it as a row of the list's table, not by a key: the row at that place, where `key` is one.

@@ -3,12 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <sstream>
 
 #include "pages/pages.h"
-#include "shell/container.h"
-#include "shell/scripted_host.h"
 #include "support/area_rebuild.h"
+#include "support/page_harness.h"
 #include "support/temp_hub.h"
 
 namespace qb::pages {
@@ -100,29 +98,10 @@ TEST_F(CustomiseUserRebuild, AProfileAddedKeepsEveryValueByNumberAndLeavesTheLis
 
 // ---- The pages' dialogs -----------------------------------------------------------------------
 
-// A scripted host that keeps each dialog as the page set it up.
-class RecordingHost : public shell::ScriptedHost {
-  public:
-    using ScriptedHost::ScriptedHost;
-    shell::DialogResult ShowDialog(const shell::DialogRequest& request) override {
-        requests.push_back(request);
-        return ScriptedHost::ShowDialog(request);
-    }
-    std::vector<shell::DialogRequest> requests;
-};
-
-class CustomiseUserPages : public ::testing::Test {
+class CustomiseUserPages : public ::testing::Test, protected test::PageHarness {
   protected:
     CustomiseUserPages() {
-        RegisterAllPages(registry);
-        hub.Write("cfg/Profiles.xml", test::ProfilesXml(2));
-        container.LoadProfiles();
-        store::BuildRun run{.files = files,
-                            .lastProfile = container.Profiles().LastNumber(),
-                            .profileNames = container.Profiles().Names()};
-        store::BuilderRegistry builders;
-        RegisterAllBuilders(builders);
-        builders.BuildArea(store::Area::CustomiseUser, run);
+        BuildFor(2, store::Area::CustomiseUser);
         host.openTextEditor = [this](const std::string& file, const std::string& mode) {
             container.OpenTextEditor(file, mode);
         };
@@ -156,13 +135,6 @@ class CustomiseUserPages : public ::testing::Test {
         }
         return shown;
     }
-
-    test::TempHub hub;
-    store::TableFiles files{hub.ProgramFolder()};
-    std::ostringstream transcript;
-    RecordingHost host{transcript};
-    shell::PageRegistry registry;
-    shell::Container container{files, host, registry};
 };
 
 TEST_F(CustomiseUserPages, TheIntroPagesAskOneLineOrAUsersLineAndNameTheUserOnEdit) {

@@ -34,7 +34,7 @@ class PairMatrices : public ::testing::Test, protected test::PageHarness {
         store::BuildRun run{files, lastProfile};
         files.SetIndexing(indexing);
         BuildPairMatrix(matrix, run);
-        return hub.ReadSetting(Slashed(matrix.file));
+        return hub.ReadSetting(Slashed(matrix.commands.front().file.file));
     }
 
     static std::string Slashed(std::string file) {

@@ -63,6 +63,15 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"UserActions~Spells~Settings", "the builder writes the delay before the wards flag"},
         {"UserActions~Insults~Medieval",
          "the builder names the third list tThreee, the page tThree"},
+        {"Security~AntiAdvertise~Addresses",
+         "the builder makes each list under the other's table; the page writes each its own"},
+        {"Security~Kicks~Settings", "the builder writes the numbers ahead of the flags"},
+        {"Security~Kicks~Permissions",
+         "the page writes KickCanTimeBan.tbl, which no rebuild makes: the builder's is TempBan"},
+        {"Security~PrivateHub", "the builder writes the five lists in an order of its own"},
+        {"Security~Registration",
+         "the builder writes the unregistered users' rows, which the page drops, and "
+         "iRegProfiles = 3 where the page writes iRegProfile"},
     };
     return pages;
 }
@@ -91,6 +100,9 @@ const std::map<std::string, std::string>& RestoreDiffers() {
          "RESTORE puts the default lines in; a rebuild makes the lists empty"},
         {"CustomiseUser~IntroOutro~Custom",
          "RESTORE puts the default lines in; a rebuild makes the lists empty"},
+        {"Security~ProfileRules~Settings",
+         "RESTORE unticks Log Redirects and sets the delay to 5; a rebuild ticks it and writes "
+         "no delay"},
     };
     return pages;
 }
@@ -102,6 +114,9 @@ const std::map<std::string, std::string>& SavesBroken() {
         {"Communication~HubEmail",
          "no rebuild makes its file, and until one exists the capacity shows empty: the first save "
          "writes iInboxSize = ,"},
+        {"Security~ProfileRules~Settings",
+         "the check delay shows empty until one is chosen, as a new tree's file has it: "
+         "iCheckDelay = ,"},
     };
     return pages;
 }
@@ -120,6 +135,16 @@ const std::map<std::string, std::pair<std::string, std::string>>& OpenFailsWitho
     return pages;
 }
 
+// Pages that, saved over a missing file, open on other rows than they saved.
+const std::map<std::string, std::string>& ReopensOtherwise() {
+    static const std::map<std::string, std::string> pages = {
+        {"Security~ProfileRules~Rules",
+         "the messages and redirects are saved as empty sub-tables, and the list reader shows an "
+         "empty sub-table with the rows of the table behind it"},
+    };
+    return pages;
+}
+
 // A settings file's path below the settings folder, as the tree lists it.
 std::string TreePath(const std::string& file) {
     std::string path = file;
@@ -127,14 +152,15 @@ std::string TreePath(const std::string& file) {
     return path;
 }
 
-// The keys of a file's own table: every line one tab deep that names a key.
-std::set<std::string> TopKeys(const std::string& text) {
+// The keys a file names, at any depth: every line that starts with tabs and a key.
+std::set<std::string> Keys(const std::string& text) {
     std::set<std::string> keys;
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) {
-        if (line.size() < 2 || line[0] != '\t' || line[1] == '\t') continue;
+        const size_t start = line.find_first_not_of('\t');
         const size_t equals = line.find(" = ");
-        if (equals != std::string::npos) keys.insert(line.substr(1, equals - 1));
+        if (start == 0 || start == std::string::npos || equals == std::string::npos) continue;
+        keys.insert(line.substr(start, equals - start));
     }
     return keys;
 }
@@ -142,14 +168,7 @@ std::set<std::string> TopKeys(const std::string& text) {
 class Sweep : public ::testing::Test, protected test::PageHarness {
   protected:
     Sweep() {
-        hub.Write("cfg/Profiles.xml", test::ProfilesXml(4));
-        container.LoadProfiles();
-        store::BuilderRegistry builders;
-        RegisterAllBuilders(builders);
-        store::BuildRun run{.files = files,
-                            .lastProfile = container.Profiles().LastNumber(),
-                            .profileNames = container.Profiles().Names()};
-        shell::RebuildSettings(run, builders);
+        BuildFor(4);
         built_ = Tree();
     }
 
@@ -289,9 +308,11 @@ TEST_F(Sweep, ANumberTheFileLacksShowsItsDefaultAndSavesIt) {
         for (const store::FileSchema* file : page->Files()) {
             const std::string path = TreePath(file->file);
             if (!built_.contains(path)) continue;
-            const std::set<std::string> keys = TopKeys(hub.ReadSetting(path));
+            const std::set<std::string> keys = Keys(hub.ReadSetting(path));
             for (const store::Field& field : file->fields) {
-                if (field.kind == store::FieldKind::Number && keys.contains(field.key)) {
+                // A number with no default of its own has none to take.
+                if (field.kind == store::FieldKind::Number && !field.defaultValue.empty() &&
+                    keys.contains(field.key)) {
                     written.emplace_back(path, &field);
                 }
             }
@@ -337,7 +358,12 @@ TEST_F(Sweep, APageSavedOverItsMissingFilesWritesThemWhole) {
         for (const store::FileSchema* file : page->Files()) {
             auto& keys = listed[TreePath(file->file)];
             for (const std::string& bound : page->BoundKeys(*file)) {
-                if (bound != file->table) keys.insert(bound.substr(0, bound.find('.')));
+                if (bound == file->table) continue;
+                // A row of a sub-table ("tSub.bRow") needs the sub-table and its row.
+                for (size_t from = 0, dot = 0; dot != std::string::npos; from = dot + 1) {
+                    dot = bound.find('.', from);
+                    keys.insert(bound.substr(from, dot - from));
+                }
             }
         }
         const auto before = Inodes();
@@ -367,7 +393,7 @@ TEST_F(Sweep, APageSavedOverItsMissingFilesWritesThemWhole) {
             ASSERT_TRUE(fs::exists(hub.Settings() / path));
             const std::string text = hub.ReadSetting(path);
             if (const auto keys = listed.find(path); keys != listed.end()) {
-                const std::set<std::string> held = TopKeys(text);
+                const std::set<std::string> held = Keys(text);
                 for (const std::string& wanted : keys->second)
                     EXPECT_TRUE(held.contains(wanted)) << wanted << " is missing:\n" << text;
             }
@@ -379,7 +405,11 @@ TEST_F(Sweep, APageSavedOverItsMissingFilesWritesThemWhole) {
             // Opened again, the page shows what it saved: saving it changes nothing.
             page = container.Open(key);
             Press(*page, "SAVE");
-            EXPECT_EQ(hub.ReadSetting(path), text);
+            if (ReopensOtherwise().contains(key)) {
+                EXPECT_NE(hub.ReadSetting(path), text) << ReopensOtherwise().at(key);
+            } else {
+                EXPECT_EQ(hub.ReadSetting(path), text);
+            }
             EXPECT_TRUE(container.Close(*page));
             Restore();
         }

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "store/fatal_error.h"
+#include "store/line_reader.h"
 #include "store/paths.h"
 #include "store/table_files.h"
 #include "support/temp_hub.h"
@@ -83,6 +84,34 @@ TEST_F(Readers, LinesEndAtCarriageReturnsAndLoneLineFeeds) {
     EXPECT_EQ(files.ReadTableValue("lf.tbl", "a", "tA"), "1");
     EXPECT_EQ(files.ReadTableValue("lf.tbl", "b", "tA"), "2");
     EXPECT_EQ(files.ReadTableValue("lf.tbl", "c", "tA"), "3");
+}
+
+// A read scope takes a file at once; its lines must end where one line at a time ends them.
+TEST(LineReaderWhole, EndsEveryLineWhereTheLineByLineReadDoes) {
+    using namespace std::string_literals;
+    for (const std::string& bytes :
+         {""s, "a"s, "a\n"s, "a\r\n"s, "a\r"s, "\n\n"s, "\r\n\r\n"s, "a\r\rb"s, "a\n\rb\r\n"s,
+          "a\0b\r\nc"s, "x\r\n\n\ry"s, std::string(70000, 'z') + "\r\nend",
+          // A carriage return at the end of one read and its line feed at the start of the next.
+          std::string(65535, 'a') + "\r\nb", std::string(65535, 'a') + "\r\rb",
+          std::string(65535, 'a') + "\r"}) {
+        const auto reader = [&] {
+            std::FILE* stream = fmemopen(const_cast<char*>(bytes.data()), bytes.size(), "rb");
+            return LineReader::Adopt(stream);
+        };
+        std::vector<std::string> oneByOne;
+        auto first = reader();
+        for (std::string line; first->Next(line);)
+            oneByOne.push_back(line);
+        std::vector<std::string> whole;
+        reader()->ReadAll(whole);
+        EXPECT_EQ(whole, oneByOne) << testing::PrintToString(bytes.substr(0, 20));
+        // A read that needs only the first lines stops after them.
+        std::vector<std::string> first2;
+        reader()->ReadAll(first2, 2);
+        oneByOne.resize(std::min<size_t>(oneByOne.size(), 2));
+        EXPECT_EQ(first2, oneByOne) << testing::PrintToString(bytes.substr(0, 20));
+    }
 }
 
 // ---- ReadTableFlag --------------------------------------------------------------------------

@@ -7,7 +7,6 @@
 #include "families/matrix/matrix_page.h"
 #include "families/matrix/permission_collection.h"
 #include "shell/page_frame.h"
-#include "store/fatal_error.h"
 #include "store/table_text.h"
 #include "store/text_rules.h"
 
@@ -20,32 +19,22 @@ constexpr shell::PageSize kSize{5400, 6075};
 constexpr int kCommandColumn = 1;
 constexpr int kProfileColumn = 2;
 constexpr int kSettingColumn = 3;
-constexpr const char* kProfileButton = "PROFILE";
-constexpr std::string_view kCommandEntryPrefix = "C*";
 
 class CommandMatrixPage : public MatrixPage {
   public:
     CommandMatrixPage(PageContext& context, const CommandMatrix& matrix)
-        : MatrixPage(context, matrix.key, kSize, kSettingColumn), matrix_(matrix) {
-        lvwPermissions.SetWidth(kSize.width - 180 - 2 * 120);
-        SetBody(shell::Column({shell::Item(tlbListview), shell::Item(lvwPermissions)}));
-    }
+        : MatrixPage(context,
+                     MatrixDecl(matrix.key, kSize, "lvwPermissions", shell::FillWidth(kSize.width)),
+                     "lvwPermissions", kSettingColumn),
+          matrix_(matrix) {}
 
   private:
     void Setup() override {
-        lvwPermissions.AddColumn("column1", "Command", 1700);
-        lvwPermissions.AddColumn("column2", "Profile", 1700);
-        lvwPermissions.AddColumn("column3", "Setting", 900);
+        lvwMatrix.AddColumn("column1", "Command", 1700);
+        lvwMatrix.AddColumn("column2", "Profile", 1700);
+        lvwMatrix.AddColumn("column3", "Setting", 900);
         shell::SetupEditToolbar(tlbListview);
-        tlbListview.AddButton(matrix_.commandButton, matrix_.commandTip, matrix_.commandButton);
-        for (const std::string& command : matrix_.commands) {
-            tlbListview.AddMenuEntry(matrix_.commandButton,
-                                     std::string(kCommandEntryPrefix) + command, command);
-        }
-        tlbListview.AddButton(kProfileButton, "View By Profile", kProfileButton);
-        for (const std::string& name : context_.profiles.Names()) {
-            tlbListview.AddMenuEntry(kProfileButton, name, name);
-        }
+        AddFilterButtons(matrix_.commandButton, matrix_.commandTip, matrix_.commands);
     }
 
     void LoadSettings() override {
@@ -63,12 +52,7 @@ class CommandMatrixPage : public MatrixPage {
                     permissions_.Add(key, command, name, store::IsNumericallyOne(value),
                                      std::to_string(number), key);
                 } catch (const std::invalid_argument&) {
-                    // The page finds a cell's object by the names a row shows, so two profiles
-                    // of one name can't be told apart.
-                    throw store::FatalError(
-                        context_.files.HubFolder() + "\\cfg\\Profiles.xml",
-                        "two profiles are named \"" + name +
-                            "\", and the permission pages tell profiles apart by their names");
+                    throw TwoProfilesNamed(context_.files, name);
                 }
             }
         }
@@ -77,63 +61,29 @@ class CommandMatrixPage : public MatrixPage {
 
     void RestoreDefaults() override {}  // the page has no RESTORE
 
-    // The objects that pass both filters (an empty filter passes all). A cell that repeats the
-    // row above stays blank, so that a command's or a profile's rows read like a branch.
-    void Show() {
-        lvwPermissions.Clear();
+    // The objects that pass both filters. A cell that repeats the row above stays blank, so
+    // that a command's or a profile's rows read like a branch.
+    void Show() override {
+        lvwMatrix.Clear();
         const std::string* lastCommand = nullptr;
         const std::string* lastProfile = nullptr;
         int n = 0;
         for (const Permission& object : permissions_) {
-            if (!commandFilter_.empty() && object.command != commandFilter_) continue;
-            if (!profileFilter_.empty() && object.profile != profileFilter_) continue;
+            if (!Passes(object.command, object.profile)) continue;
             const bool newCommand = lastCommand == nullptr || *lastCommand != object.command;
             const bool newProfile = lastProfile == nullptr || *lastProfile != object.profile;
             shell::ListRow& row =
-                lvwPermissions.Append(std::to_string(++n) + "ID", newCommand ? object.command : "");
+                lvwMatrix.Append(std::to_string(++n) + "ID", newCommand ? object.command : "");
             row.cells = {newProfile ? object.profile : "", object.permission ? "Yes" : "No"};
             lastCommand = &object.command;
             lastProfile = &object.profile;
         }
     }
 
-    void ListMenuClick(const std::string& button, const std::string& entry) override {
-        if (button == matrix_.commandButton) {
-            commandFilter_ = entry.starts_with(kCommandEntryPrefix)
-                                 ? entry.substr(kCommandEntryPrefix.size())
-                                 : entry;
-        } else if (button == kProfileButton) {
-            profileFilter_ = entry;
-        } else {
-            return;
-        }
-        tlbListview.SetButtonPressed(button, true);
-        Show();
-    }
-
-    // A click on a pressed filter button lifts it and clears its filter alone.
-    void ListButtonClick(const std::string& button) override {
-        std::string* filter = button == matrix_.commandButton ? &commandFilter_
-                              : button == kProfileButton      ? &profileFilter_
-                                                              : nullptr;
-        const shell::ToolButton* pressed = tlbListview.Find(button);
-        if (filter == nullptr || pressed == nullptr || !pressed->pressed) return;
-        filter->clear();
-        Show();
-        tlbListview.SetButtonPressed(button, false);
-    }
-
-    // A row shows its command and profile only where they change, so the object is found by
-    // the nearest of each at or above the row.
     void CellFlipped(int row) override {
-        std::string command;
-        std::string profile;
-        for (int above = row; above >= 1 && (command.empty() || profile.empty()); --above) {
-            if (command.empty()) command = lvwPermissions.Cell(above, kCommandColumn);
-            if (profile.empty()) profile = lvwPermissions.Cell(above, kProfileColumn);
-        }
+        const auto [command, profile] = NamesAt(row, kCommandColumn, kProfileColumn);
         if (Permission* object = permissions_.Find(PermissionKey(command, profile))) {
-            object->permission = lvwPermissions.Cell(row, kSettingColumn) == "Yes";
+            object->permission = lvwMatrix.Cell(row, kSettingColumn) == "Yes";
         }
     }
 
@@ -161,9 +111,6 @@ class CommandMatrixPage : public MatrixPage {
 
     const CommandMatrix& matrix_;
     Permissions permissions_;
-    // Both filters live as long as the page: a save or a discard shows the same view again.
-    std::string commandFilter_;
-    std::string profileFilter_;
 };
 
 }  // namespace

@@ -1,8 +1,8 @@
 #pragma once
 // The pair shape of the permission matrices: whether a user of one profile (By) may use a function
-// on a user of another (On). The file holds a group per By profile number and a row per On profile
-// number, 1 or 0; the page shows a row per cell, and its list is its only copy of the data. One
-// page and one builder serve every member; a member is a row of data.
+// on a user of another (On). Each command of a member has a file holding a group per By profile
+// number and a row per On profile number, 1 or 0; the page shows a row per cell. One page and one
+// builder serve every member; a member is a row of data.
 
 #include <string>
 #include <vector>
@@ -30,27 +30,63 @@ struct PassiveVariant {
     const store::FileSchema* dataFile;  // made by the builder when missing
 };
 
+// A file of the pair form: relative to the settings folder, and its table ("tTalk").
+struct PairFile {
+    std::string file;
+    std::string table;
+};
+
+// A command of a member: the text its first row shows, and its file.
+struct PairCommand {
+    std::string text;  // "Talk", "Add Registration"
+    PairFile file;
+};
+
+// How a page shows its cells.
+enum class PairView {
+    // A row per cell straight from the files, in the commands' order: the list is the page's only
+    // copy of the data, and a save consumes it and loads again.
+    List,
+    // The cells kept apart from the list, which shows them by command and By profile through the
+    // two filter buttons; a save writes every command's file from the cells and keeps the view.
+    ByCommandAndProfile,
+};
+
 struct PairMatrix {
-    std::string key;      // the function key, "Communication~Talk"
-    std::string command;  // the text of the list's first row, "Talk"
-    std::string file;     // relative to the settings folder
-    std::string table;    // the file's table, "tTalk"
+    std::string key;                    // the function key, "Communication~Talk"
+    std::vector<PairCommand> commands;  // in the list's order
     // The first On profile number the builder writes in each group: -1, or 0 where the builder
     // has always left out the unregistered users (whose cells then read "No" until a save).
     int builderFirstOn = -1;
     const PassiveVariant* passive = nullptr;
+    PairView view = PairView::List;
+    // The page's first profile number on both axes: 0 leaves the unregistered users out of the
+    // page, whose save then drops the rows of -1 that the builder writes.
+    int firstProfile = -1;
+    // The words of a cell, and the head of their column.
+    std::string yes = "Yes";
+    std::string no = "No";
+    std::string allowColumn = "Allow To";
+    int commandWidth = 1100;  // twips
+    // The files the builder writes, in its order, where they aren't the commands' own.
+    std::vector<PairFile> builderFiles{};
+    // The member's own page: its key, caption and size, its settings and their controls, with
+    // tlbListview and the matrix's list `list` declared among them. Null: the matrix alone.
+    const shell::PageDecl* page = nullptr;
+    std::string list = "lvwPermissions";
 };
 
 // The member's page. The member must outlive the registries.
 shell::PageEntry PairMatrixPageOf(const PairMatrix& matrix);
-// The file's builder, and the variant's data file after it, in the file's folder.
+// The member's files in the builder's order, and the variant's data file after them, in the
+// files' folder.
 store::BuildStep PairMatrixBuild(const PairMatrix& matrix);
 
-// Rewrites the member's file for today's profiles: each cell keeps the value of its two profile
-// numbers, and a number the old file lacks starts at 0.
+// Rewrites the member's files for today's profiles, in the builder's order: each cell keeps the
+// value of its two profile numbers, and a number the old file lacks starts at 0.
 void BuildPairMatrix(const PairMatrix& matrix, store::BuildRun& run);
 
-// The columns of lvwPermissions: the row's own text, then its cells.
+// The columns of a list-shaped member's list: the row's own text, then its cells.
 enum PairColumn {
     kCommandColumn = 1,
     kByProfileColumn,

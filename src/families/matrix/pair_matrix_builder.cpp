@@ -6,43 +6,63 @@
 #include "store/table_text.h"
 
 namespace qb::pages {
+namespace {
 
-void BuildPairMatrix(const PairMatrix& matrix, store::BuildRun& run) {
+// The files the builder writes: its own list where it has one, else the commands'.
+std::vector<PairFile> BuilderFiles(const PairMatrix& matrix) {
+    if (!matrix.builderFiles.empty()) return matrix.builderFiles;
+    std::vector<PairFile> files;
+    for (const PairCommand& command : matrix.commands)
+        files.push_back(command.file);
+    return files;
+}
+
+// Rewrites one file for today's profiles, with the variant's rows where it has one.
+void BuildPairFile(const PairFile& file, int firstOn, const PassiveVariant* passive,
+                   store::BuildRun& run) {
     // A matrix of P profiles asks its file P times P: the scope reads it once.
     const store::TableFiles::ReadScope scope(run.files);
-    const std::string path = run.files.SettingsFolder() + "\\" + matrix.file;
+    const std::string path = run.files.SettingsFolder() + "\\" + file.file;
     // The old value as read, or 0 where it is empty or missing.
     auto old = [&](const std::string& key, const std::string& table) {
         std::string value = run.files.ReadTableValue(path, key, table);
         return value.empty() ? std::string("0") : value;
     };
 
-    store::TableText text(matrix.table + " = {");
-    if (matrix.passive != nullptr) {
-        text.Open(1, matrix.passive->subTable);
-        for (int number = -1; number <= run.lastProfile; ++number) {
-            text.Row(2, number, old(std::to_string(number), matrix.passive->subTable));
-        }
+    store::TableText text(file.table + " = {");
+    if (passive != nullptr) {
+        text.Open(1, passive->subTable);
+        for (int number = -1; number <= run.lastProfile; ++number)
+            text.Row(2, number, old(std::to_string(number), passive->subTable));
         text.Close(1);
     }
     for (int by = -1; by <= run.lastProfile; ++by) {
         const std::string group = std::to_string(by);
         text.Open(1, "[" + group + "]");
-        for (int on = matrix.builderFirstOn; on <= run.lastProfile; ++on) {
+        for (int on = firstOn; on <= run.lastProfile; ++on)
             text.Row(2, on, old(std::to_string(on), group));
-        }
-        if (matrix.passive != nullptr) {
-            for (const std::string& word : matrix.passive->builderWords) {
+        if (passive != nullptr) {
+            for (const std::string& word : passive->builderWords)
                 text.Bare(2, word, old(word, group));
-            }
         }
         text.Close(1);
     }
-    run.files.WriteTextFile(matrix.file, text.End());
+    run.files.WriteTextFile(file.file, text.End());
+}
+
+}  // namespace
+
+void BuildPairMatrix(const PairMatrix& matrix, store::BuildRun& run) {
+    // The passive variant belongs to a member of one file.
+    const PassiveVariant* passive = matrix.passive;
+    for (const PairFile& file : BuilderFiles(matrix)) {
+        BuildPairFile(file, matrix.builderFirstOn, passive, run);
+        passive = nullptr;
+    }
 }
 
 store::BuildStep PairMatrixBuild(const PairMatrix& matrix) {
-    return {store::FolderOf(matrix.file), [&matrix](store::BuildRun& run) {
+    return {store::FolderOf(BuilderFiles(matrix).front().file), [&matrix](store::BuildRun& run) {
                 BuildPairMatrix(matrix, run);
                 if (matrix.passive != nullptr) BuildFile(*matrix.passive->dataFile, run);
             }};

@@ -1,7 +1,10 @@
-// The pair shape's page: a row per cell of the matrix, By profile against On profile.
+// The pair shape's pages: a row per cell of the matrix, By profile against On profile, for each
+// command of the member.
 
 #include <algorithm>
 #include <cctype>
+#include <optional>
+#include <unordered_map>
 
 #include "families/matrix/matrix_page.h"
 #include "families/matrix/pair_matrix.h"
@@ -27,24 +30,34 @@ bool IsProfileNumber(std::string_view text) {
     });
 }
 
-class PairMatrixPage : public MatrixPage {
+shell::PageDecl DeclOf(const PairMatrix& matrix) {
+    if (matrix.page != nullptr) return *matrix.page;
+    return MatrixDecl(matrix.key, matrix.passive ? kPassiveSize : kPairSize, matrix.list,
+                      shell::FillWidth(kPairSize.width));
+}
+
+// The profile numbers of one axis.
+std::vector<std::string> Numbers(int first, int last) {
+    std::vector<std::string> numbers;
+    for (int number = first; number <= last; ++number)
+        numbers.push_back(std::to_string(number));
+    return numbers;
+}
+
+// A row per cell, straight from the files; the list is the data.
+class PairListPage : public MatrixPage {
   public:
-    PairMatrixPage(PageContext& context, const PairMatrix& matrix)
-        : MatrixPage(context, matrix.key, matrix.passive ? kPassiveSize : kPairSize, kAllowColumn),
+    PairListPage(PageContext& context, const PairMatrix& matrix)
+        : MatrixPage(context, DeclOf(matrix), matrix.list, kAllowColumn, matrix.yes, matrix.no),
           matrix_(matrix) {
-        lvwPermissions.SetWidth(kPairSize.width - 180 - 2 * 120);
-        if (matrix_.passive == nullptr) {
-            SetBody(shell::Column({shell::Item(tlbListview), shell::Item(lvwPermissions)}));
-            return;
-        }
+        if (matrix_.passive == nullptr) return;
         lblPassive_ = &Add<shell::Label>("lblLabel(0)", matrix_.passive->label);
         lvwEnabledProfiles_ = &Add<ListControl>("lvwEnabledProfiles", true);
         lvwEnabledProfiles_->SetWidth(kPassiveSize.width - kPairSize.width - 120);
         lvwEnabledProfiles_->onItemCheck = [this](int) { MarkDirty(); };
         // The matrix takes the room; the check list needs only its names.
         SetBody(shell::Row(
-            {shell::Weighted(shell::Column({shell::Item(tlbListview), shell::Item(lvwPermissions)}),
-                             2),
+            {shell::Weighted(shell::Column({shell::Item(tlbListview), shell::Item(lvwMatrix)}), 2),
              shell::Weighted(
                  shell::Column({shell::Item(*lblPassive_), shell::Item(*lvwEnabledProfiles_)}),
                  1)}));
@@ -52,13 +65,13 @@ class PairMatrixPage : public MatrixPage {
 
   private:
     void Setup() override {
-        lvwPermissions.AddColumn("column1", "Command", 1100);
-        lvwPermissions.AddColumn("column2", "By Profile", 1500);
-        lvwPermissions.AddColumn("column3", "On Profile", 1500);
-        lvwPermissions.AddColumn("column4", "Allow To", 900);
+        lvwMatrix.AddColumn("column1", "Command", matrix_.commandWidth);
+        lvwMatrix.AddColumn("column2", "By Profile", 1500);
+        lvwMatrix.AddColumn("column3", "On Profile", 1500);
+        lvwMatrix.AddColumn("column4", matrix_.allowColumn, 900);
         // Work columns: the two profile numbers that the save writes.
-        lvwPermissions.AddColumn("column5", "iProfileBy", 0);
-        lvwPermissions.AddColumn("column6", "iProfileOn", 0);
+        lvwMatrix.AddColumn("column5", "iProfileBy", 0);
+        lvwMatrix.AddColumn("column6", "iProfileOn", 0);
         shell::SetupEditToolbar(tlbListview);
         if (matrix_.passive == nullptr) return;
         shell::SetupAmendToolbar(tlbListview);
@@ -73,70 +86,85 @@ class PairMatrixPage : public MatrixPage {
     }
 
     // Rows come straight from the profile list, each cell read by its two numbers. Only the
-    // first row of a By group names the By profile: the save finds the groups by that.
+    // first row of a command names the command, and only the first row of a By group the By
+    // profile: the save finds the groups by that.
     void LoadSettings() override {
-        lvwPermissions.Clear();
+        Page::LoadSettings();  // the member's own settings, where it has any
+        lvwMatrix.Clear();
         const store::ProfileList& profiles = context_.profiles;
+        const int first = matrix_.firstProfile;
+        const std::vector<std::string> numbers = Numbers(first, profiles.LastNumber());
+        const size_t words = matrix_.passive != nullptr ? matrix_.passive->pageWords.size() : 0;
+        lvwMatrix.Reserve(
+            static_cast<int>(matrix_.commands.size() * numbers.size() * (numbers.size() + words)));
         int n = 0;
-        auto addRow = [&](int by, bool groupStart, std::string onText, std::string onKey) {
-            ++n;
-            const std::string byKey = std::to_string(by);
-            const std::string value =
-                context_.files.ReadTableValue(matrix_.file, onKey, byKey, false);
-            ListControl& list = lvwPermissions;
-            shell::ListRow& row =
-                list.Append(std::to_string(n) + "ID", n == 1 ? matrix_.command : std::string());
-            row.cells = {groupStart ? profiles.Text(by + 2) : std::string(), std::move(onText),
-                         store::IsNumericallyOne(value) ? "Yes" : "No", byKey, std::move(onKey)};
-        };
-        for (int by = -1; by <= profiles.LastNumber(); ++by) {
-            for (int on = -1; on <= profiles.LastNumber(); ++on) {
-                addRow(by, on == -1, profiles.Text(on + 2), std::to_string(on));
-            }
-            if (matrix_.passive == nullptr) continue;
-            for (const std::string& word : matrix_.passive->pageWords) {
-                addRow(by, false, word, word);
+        for (const PairCommand& command : matrix_.commands) {
+            const int commandRow = n + 1;
+            auto addRow = [&](size_t by, bool groupStart, const std::string& onText,
+                              const std::string& onKey) {
+                ++n;
+                const std::string& byKey = numbers[by];
+                const std::string value =
+                    context_.files.ReadTableValue(command.file.file, onKey, byKey, false);
+                shell::ListRow& row = lvwMatrix.Append(
+                    std::to_string(n) + "ID", n == commandRow ? command.text : std::string());
+                row.cells = {
+                    groupStart ? profiles.Text(first + static_cast<int>(by) + 2) : std::string(),
+                    onText, store::IsNumericallyOne(value) ? Yes() : No(), byKey, onKey};
+            };
+            for (size_t by = 0; by < numbers.size(); ++by) {
+                for (size_t on = 0; on < numbers.size(); ++on) {
+                    addRow(by, on == 0, profiles.Text(first + static_cast<int>(on) + 2),
+                           numbers[on]);
+                }
+                if (matrix_.passive == nullptr) continue;
+                for (const std::string& word : matrix_.passive->pageWords)
+                    addRow(by, false, word, word);
             }
         }
         if (lvwEnabledProfiles_ != nullptr) {
-            shell::LoadProfileChecks(*lvwEnabledProfiles_, context_, matrix_.file,
-                                     matrix_.passive->subTable);
+            shell::LoadProfileChecks(*lvwEnabledProfiles_, context_,
+                                     matrix_.commands.front().file.file, matrix_.passive->subTable);
         }
     }
 
-    void RestoreDefaults() override {}  // the page has no RESTORE
-
-    // The rows are taken from the top, as many as the load made for today's profiles; each one
-    // that names a By profile opens that profile's group. The list is empty then, and loads again.
+    // For each command, the rows are taken from the top, as many as the load made for today's
+    // profiles; each one that names a By profile opens that profile's group. The list is empty
+    // then, and loads again.
     void SaveSettings() override {
+        Page::SaveSettings();  // the member's own settings file first
         const store::ProfileList& profiles = context_.profiles;
-        store::TableText text(matrix_.table + " = {");
-        int consumed = profiles.Count() * profiles.Count();
-        if (matrix_.passive != nullptr) {
-            text.Open(1, matrix_.passive->subTable);
-            for (int number = -1; number <= profiles.LastNumber(); ++number) {
-                text.Row(2, number, shell::ProfileCheckValue(*lvwEnabledProfiles_, number));
+        const int side = profiles.LastNumber() - matrix_.firstProfile + 1;
+        int index = 1;
+        for (const PairCommand& command : matrix_.commands) {
+            store::TableText text(command.file.table + " = {");
+            int consumed = side * side;
+            if (matrix_.passive != nullptr) {
+                text.Open(1, matrix_.passive->subTable);
+                for (int number = -1; number <= profiles.LastNumber(); ++number) {
+                    text.Row(2, number, shell::ProfileCheckValue(*lvwEnabledProfiles_, number));
+                }
+                text.Close(1);
+                consumed += side * static_cast<int>(matrix_.passive->pageWords.size());
             }
-            text.Close(1);
-            consumed += profiles.Count() * static_cast<int>(matrix_.passive->pageWords.size());
-        }
-        consumed = std::min(consumed, lvwPermissions.Count());
-        bool groupOpen = false;
-        for (int index = 1; index <= consumed; ++index) {
-            const shell::ListRow& row = lvwPermissions.Row(index);
-            const std::string& on = row.cells[kOnNumberColumn - 2];
-            if (!row.cells[kByProfileColumn - 2].empty()) {
-                if (groupOpen) text.Close(1);
-                text.Open(1, "[" + row.cells[kByNumberColumn - 2] + "]");
-                groupOpen = true;
+            const int last = std::min(index + consumed - 1, lvwMatrix.Count());
+            bool groupOpen = false;
+            for (; index <= last; ++index) {
+                const shell::ListRow& row = lvwMatrix.Row(index);
+                const std::string& on = row.cells[kOnNumberColumn - 2];
+                if (!row.cells[kByProfileColumn - 2].empty()) {
+                    if (groupOpen) text.Close(1);
+                    text.Open(1, "[" + row.cells[kByNumberColumn - 2] + "]");
+                    groupOpen = true;
+                }
+                const std::string key = IsProfileNumber(on) ? "[" + on + "]" : "[\"" + on + "\"]";
+                text.Bare(2, key, row.cells[kAllowColumn - 2] == Yes() ? "1" : "0");
             }
-            const std::string key = IsProfileNumber(on) ? "[" + on + "]" : "[\"" + on + "\"]";
-            text.Bare(2, key, row.cells[kAllowColumn - 2] == "Yes" ? "1" : "0");
+            if (groupOpen) text.Close(1);
+            context_.files.WriteTextFile(command.file.file, text.End());
         }
-        if (groupOpen) text.Close(1);
         // Every row the load made is consumed: the profiles can't change while the page is open.
-        lvwPermissions.Clear();
-        context_.files.WriteTextFile(matrix_.file, text.End());
+        lvwMatrix.Clear();
         Reload();
     }
 
@@ -145,12 +173,161 @@ class PairMatrixPage : public MatrixPage {
     ListControl* lvwEnabledProfiles_ = nullptr;
 };
 
+// The cells held apart from the list, shown by command and By profile.
+class PairFilteredPage : public MatrixPage {
+  public:
+    PairFilteredPage(PageContext& context, const PairMatrix& matrix)
+        : MatrixPage(context, DeclOf(matrix), matrix.list, kFilteredAllow, matrix.yes, matrix.no),
+          matrix_(matrix) {}
+
+  private:
+    static constexpr int kFilteredAllow = 4;
+
+    void Setup() override {
+        lvwMatrix.AddColumn("column1", "Command", matrix_.commandWidth);
+        lvwMatrix.AddColumn("column2", "By Profile", 1500);
+        lvwMatrix.AddColumn("column3", "On Profile", 1500);
+        lvwMatrix.AddColumn("column4", matrix_.allowColumn, 900);
+        shell::SetupEditToolbar(tlbListview);
+        std::vector<std::string> commands;
+        for (const PairCommand& command : matrix_.commands)
+            commands.push_back(command.text);
+        AddFilterButtons("COMMAND", "View By Command", commands);
+    }
+
+    int Side() const { return context_.profiles.LastNumber() - matrix_.firstProfile + 1; }
+    const std::string& Name(int place) const {
+        return context_.profiles.Text(place + matrix_.firstProfile + 2);
+    }
+    size_t Cell(size_t command, int by, int on) const {
+        const auto side = static_cast<size_t>(Side());
+        return (command * side + static_cast<size_t>(by)) * side + static_cast<size_t>(on);
+    }
+
+    // Every cell of every command, read by its two numbers. A cell is found again by the names
+    // its row shows, so two profiles of one name can't be told apart.
+    void LoadSettings() override {
+        Page::LoadSettings();
+        const int side = Side();
+        places_.clear();
+        for (int place = 0; place < side; ++place) {
+            if (!places_.emplace(Name(place), place).second) {
+                throw TwoProfilesNamed(context_.files, Name(place));
+            }
+        }
+        const std::vector<std::string> numbers =
+            Numbers(matrix_.firstProfile, context_.profiles.LastNumber());
+        cells_.assign(matrix_.commands.size() * static_cast<size_t>(side * side), 0);
+        for (size_t command = 0; command < matrix_.commands.size(); ++command) {
+            const std::string& file = matrix_.commands[command].file.file;
+            for (int by = 0; by < side; ++by) {
+                for (int on = 0; on < side; ++on) {
+                    const std::string value =
+                        context_.files.ReadTableValue(file, numbers[static_cast<size_t>(on)],
+                                                      numbers[static_cast<size_t>(by)], false);
+                    cells_[Cell(command, by, on)] = store::IsNumericallyOne(value) ? 1 : 0;
+                }
+            }
+        }
+        Show();
+    }
+
+    // The cells that pass both filters, the PROFILE filter on the By axis. A Command or By
+    // Profile cell that repeats the last row shown stays blank, so the list reads like a tree.
+    void Show() override {
+        lvwMatrix.Clear();
+        const int side = Side();
+        lvwMatrix.Reserve(static_cast<int>(cells_.size()));
+        const std::string* lastCommand = nullptr;
+        const std::string* lastBy = nullptr;
+        int n = 0;
+        for (size_t command = 0; command < matrix_.commands.size(); ++command) {
+            const std::string& text = matrix_.commands[command].text;
+            for (int by = 0; by < side; ++by) {
+                const std::string& byName = Name(by);
+                if (!Passes(text, byName)) continue;
+                for (int on = 0; on < side; ++on) {
+                    const bool newCommand = lastCommand == nullptr || *lastCommand != text;
+                    const bool newBy = lastBy == nullptr || *lastBy != byName;
+                    shell::ListRow& row =
+                        lvwMatrix.Append(std::to_string(++n) + "ID", newCommand ? text : "");
+                    row.cells.reserve(3);
+                    row.cells.emplace_back(newBy ? byName : std::string());
+                    row.cells.emplace_back(Name(on));
+                    row.cells.emplace_back(cells_[Cell(command, by, on)] != 0 ? Yes() : No());
+                    lastCommand = &text;
+                    lastBy = &byName;
+                }
+            }
+        }
+    }
+
+    // The cell of a row is found by the nearest command and By profile at or above it, and the
+    // row's own On profile.
+    void CellFlipped(int row) override {
+        const auto [command, by] = NamesAt(row, 1, 2);
+        const auto byPlace = places_.find(by);
+        const auto onPlace = places_.find(lvwMatrix.Cell(row, 3));
+        if (byPlace == places_.end() || onPlace == places_.end()) return;
+        for (size_t index = 0; index < matrix_.commands.size(); ++index) {
+            if (matrix_.commands[index].text != command) continue;
+            cells_[Cell(index, byPlace->second, onPlace->second)] =
+                lvwMatrix.Cell(row, kFilteredAllow) == Yes() ? 1 : 0;
+            return;
+        }
+    }
+
+    // Every command's file from the cells, whatever was flipped, in one walk over the cells: a
+    // command begins its text, and a By profile other than the last cell's opens its group. The
+    // last cell's By profile is compared across commands too, so on a hub of Unregistered alone
+    // the commands after the first get no group, as the files have always had it. The view stays
+    // as it is: nothing loads again.
+    void SaveSettings() override {
+        Page::SaveSettings();
+        const int side = Side();
+        std::optional<store::TableText> text;
+        const std::string* lastBy = nullptr;
+        const auto write = [&](size_t command) {
+            text->Line(1, "},");
+            context_.files.WriteTextFile(matrix_.commands[command].file.file, text->End());
+        };
+        for (size_t command = 0; command < matrix_.commands.size(); ++command) {
+            if (text) write(command - 1);
+            text.emplace(matrix_.commands[command].file.table + " = {");
+            bool groupOpen = false;
+            for (int by = 0; by < side; ++by) {
+                const std::string& byName = Name(by);
+                if (lastBy == nullptr || *lastBy != byName) {
+                    if (groupOpen) text->Close(1);
+                    text->Open(1, "[" + std::to_string(by + matrix_.firstProfile) + "]");
+                    groupOpen = true;
+                }
+                lastBy = &byName;
+                for (int on = 0; on < side; ++on) {
+                    text->Row(2, on + matrix_.firstProfile,
+                              cells_[Cell(command, by, on)] != 0 ? "1" : "0");
+                }
+            }
+        }
+        if (text) write(matrix_.commands.size() - 1);
+    }
+
+    const PairMatrix& matrix_;
+    std::vector<char> cells_;                      // command, By, On
+    std::unordered_map<std::string, int> places_;  // a profile's name, its place on an axis
+};
+
 }  // namespace
 
 shell::PageEntry PairMatrixPageOf(const PairMatrix& matrix) {
-    return {matrix.key, [&matrix](PageContext& context) {
-                return std::make_unique<PairMatrixPage>(context, matrix);
-            }};
+    const auto make = [&matrix](PageContext& context) -> std::unique_ptr<shell::Page> {
+        if (matrix.view == PairView::ByCommandAndProfile) {
+            return std::make_unique<PairFilteredPage>(context, matrix);
+        }
+        return std::make_unique<PairListPage>(context, matrix);
+    };
+    if (matrix.page != nullptr) return {*matrix.page, make};
+    return {matrix.key, make};
 }
 
 }  // namespace qb::pages

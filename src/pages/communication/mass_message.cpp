@@ -21,12 +21,12 @@ const PairMatrix& MassMessageMatrix() {
         "Communication\\MassMessage\\Passive.asc",
         &passiveImmune,
     };
-    static const PairMatrix matrix{"Communication~MassMessage",
-                                   "MassMessage",
-                                   "Communication\\MassMessage\\MassMessageSettings.tbl",
-                                   "tMassMessageSettings",
-                                   -1,
-                                   &passive};
+    static const PairMatrix matrix{
+        .key = "Communication~MassMessage",
+        .commands = {{"MassMessage",
+                      {"Communication\\MassMessage\\MassMessageSettings.tbl",
+                       "tMassMessageSettings"}}},
+        .passive = &passive};
     return matrix;
 }
 

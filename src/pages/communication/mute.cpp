@@ -5,8 +5,9 @@
 namespace qb::pages {
 
 const PairMatrix& MuteMatrix() {
-    static const PairMatrix matrix{"Communication~Mute", "Mute", "Communication\\Mute\\Mute.tbl",
-                                   "tMute", -1};
+    static const PairMatrix matrix{
+        .key = "Communication~Mute",
+        .commands = {{"Mute", {"Communication\\Mute\\Mute.tbl", "tMute"}}}};
     return matrix;
 }
 

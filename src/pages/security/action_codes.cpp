@@ -31,4 +31,18 @@ std::string ActionCodeOf(std::string_view name) {
     return {};
 }
 
+store::Field ActionField() {
+    return {.kind = store::FieldKind::String,
+            .key = "sAction",
+            .defaultValue = "T",
+            .choices = ActionChoices()};
+}
+
+store::Field BanTimeField(std::string key) {
+    return {.kind = store::FieldKind::Number,
+            .key = std::move(key),
+            .defaultValue = "60",
+            .range = store::Range{1, 1440, 5}};
+}
+
 }  // namespace qb::pages

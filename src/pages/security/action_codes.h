@@ -21,4 +21,9 @@ std::string ActionName(std::string_view code);
 // The code of a name, or empty for a name the table lacks.
 std::string ActionCodeOf(std::string_view name);
 
+// The action of a settings file, sAction, TempBan's letter by default; and the time a ban lasts,
+// from 1 to 1440 on an up-down in steps of 5, 60 by default, under the key the file names it.
+store::Field ActionField();
+store::Field BanTimeField(std::string key);
+
 }  // namespace qb::pages

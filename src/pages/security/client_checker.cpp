@@ -17,15 +17,8 @@ const store::FileSchema& ClientCheckerSettingsSchema() {
         .table = "tClientCheckerSettings",
         .fields =
             {
-                {.kind = FieldKind::Number,
-                 .key = "iBanTime",
-                 .defaultValue = "60",
-                 .range = store::Range{1, 1440, 5}},
-                // The code of "TempBan".
-                {.kind = FieldKind::String,
-                 .key = "sAction",
-                 .defaultValue = "T",
-                 .choices = ActionChoices()},
+                BanTimeField("iBanTime"),
+                ActionField(),
                 {.kind = FieldKind::ProfileChecks, .key = "tEnabledProfiles", .defaultValue = "0"},
                 // A rebuild clears every blocked type, though the file's other values survive it.
                 {.kind = FieldKind::NamedFlags,

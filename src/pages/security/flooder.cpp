@@ -6,8 +6,9 @@
 namespace qb::pages {
 
 const PairMatrix& FloodMatrix() {
-    static const PairMatrix matrix{"Security~Flooder", "Flood",
-                                   "Security\\Flood\\FloodSettings.tbl", "tFloodSettings", -1};
+    static const PairMatrix matrix{
+        .key = "Security~Flooder",
+        .commands = {{"Flood", {"Security\\Flood\\FloodSettings.tbl", "tFloodSettings"}}}};
     return matrix;
 }
 

@@ -4,20 +4,44 @@ namespace qb::pages {
 
 void RegisterSecurityPages(shell::PageRegistry& registry) {
     registry.Register({
+        AntiAdvertiseSettingsPage(),
+        AntiAdvertiseAddressesPage(),
         ClientCheckerPage(),
         PairMatrixPageOf(FloodMatrix()),
         CommandSpyPage(),
+        KickSettingsPage(),
+        PairMatrixPageOf(KickPermissionsMatrix()),
+        PrivateHubPage(),
+        ProfileRuleSettingsPage(),
+        ProfileRuleRulesPage(),
+        PairMatrixPageOf(RegistrationMatrix()),
     });
 }
 
 // The security area's files, in the order a rebuild writes them in each folder.
 void RegisterSecurityBuilders(store::BuilderRegistry& builders) {
     builders.Add({
+        AntiAdvertiseSettingsSchema(),
+        AntiAdvertiseBlockedActionsSchema(),
+        AntiAdvertiseAllowedAddressesSchema(),
+        AntiAdvertiseBlockedAddressesSchema(),
         ClientCheckerSettingsSchema(),
         ClientVersionsSchema(),
         PairMatrixBuild(FloodMatrix()),
         CommandSpySettingsSchema(),
         CommandSpyUsersSchema(),
+        KickSettingsSchema(),
+        PairMatrixBuild(KickPermissionsMatrix()),
+        {"Security\\Kick", BuildKickAscii},
+        KickerLogSchema(),
+        KickLogSchema(),
+        PrivateHubSettingsSchema(),
+        {"Security\\ProfileRules", BuildProfileRules},
+        ProfileRuleSettingsSchema(),
+        ProfileRulesExemptUsersSchema(),
+        ProfileRulesRedirectCounterSchema(),
+        PairMatrixBuild(RegistrationMatrix()),
+        RegistrationSettingsSchema(),
     });
 }
 

@@ -23,6 +23,49 @@ const store::FileSchema& ClientVersionsSchema();
 // The flooder, a pair matrix (flooder.cpp).
 const PairMatrix& FloodMatrix();
 
+// Profile rules: the settings (profile_rule_settings.cpp) and the rules (profile_rules.cpp).
+const shell::PageDecl& ProfileRuleSettingsPage();
+shell::PageEntry ProfileRuleRulesPage();
+// Security\ProfileRules\ProfileRuleSettings.tbl: the redirect log, the check delay and the
+// profiles that may get and set rules.
+const store::FileSchema& ProfileRuleSettingsSchema();
+// Security\ProfileRules\ProfileRulesExemptUsers.tbl: the scripts' own list, made when missing.
+const store::FileSchema& ProfileRulesExemptUsersSchema();
+// Security\ProfileRules\ProfileRulesRedirectCounter.tbl: the scripts' counts, zeroed by every
+// rebuild.
+const store::FileSchema& ProfileRulesRedirectCounterSchema();
+// Security\ProfileRules\ProfileRules.tbl: the messages, the redirects and each profile's limits.
+void BuildProfileRules(store::BuildRun& run);
+
+// Kicks: the settings (kick_settings.cpp) and the permissions, a pair matrix
+// (kick_permissions.cpp).
+const shell::PageDecl& KickSettingsPage();
+// Security\Kick\KickSettings.tbl: the thresholds, the cleaner and the announcement's switch.
+const store::FileSchema& KickSettingsSchema();
+// Security\Kick\KickAscii.asc: the announcement's text, made when missing.
+void BuildKickAscii(store::BuildRun& run);
+// Security\Kick\Logs\KickerLog.tbl and KickLog.tbl: the scripts' logs, made when missing.
+const store::FileSchema& KickerLogSchema();
+const store::FileSchema& KickLogSchema();
+const PairMatrix& KickPermissionsMatrix();
+
+// Anti-advertise: the settings (anti_advertise_settings.cpp) and the addresses
+// (anti_advertise_addresses.cpp).
+const shell::PageDecl& AntiAdvertiseSettingsPage();
+const store::FileSchema& AntiAdvertiseSettingsSchema();
+const store::FileSchema& AntiAdvertiseBlockedActionsSchema();
+const shell::PageDecl& AntiAdvertiseAddressesPage();
+const store::FileSchema& AntiAdvertiseBlockedAddressesSchema();
+const store::FileSchema& AntiAdvertiseAllowedAddressesSchema();
+
+// The private hub (private_hub.cpp).
+const shell::PageDecl& PrivateHubPage();
+const store::FileSchema& PrivateHubSettingsSchema();
+
+// Registration, a pair matrix with settings of its own (registration.cpp).
+const PairMatrix& RegistrationMatrix();
+const store::FileSchema& RegistrationSettingsSchema();
+
 // The command spy (command_spy.cpp).
 const shell::PageDecl& CommandSpyPage();
 // Security\CommandSpy\CommandSpySettings.tbl: the profiles that watch command use.
