@@ -36,6 +36,8 @@ std::string OldKey(const Field& field, int row) {
             return std::to_string(row);
         case FieldKind::NamedFlags:
             return field.rows.at(static_cast<size_t>(row));
+        case FieldKind::NamedValues:
+            return field.defaultRows.at(static_cast<size_t>(row)).key;
         case FieldKind::Flag:
         case FieldKind::Number:
         case FieldKind::String:
@@ -46,7 +48,8 @@ std::string OldKey(const Field& field, int row) {
 }
 
 std::string SubTableOf(const FileSchema& schema, const Field& field) {
-    return field.kind == FieldKind::ProfileChecks || field.kind == FieldKind::NamedFlags
+    return field.kind == FieldKind::ProfileChecks || field.kind == FieldKind::NamedFlags ||
+                   field.kind == FieldKind::NamedValues
                ? field.key
                : schema.table;
 }
@@ -66,7 +69,7 @@ std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema) {
 
 void BuildFile(const FileSchema& schema, BuildRun& run) {
     const std::string path = BuilderReadPath(run.files, schema);
-    const auto byDefault = [](const Field& field, int) { return field.defaultValue; };
+    const auto byDefault = [](const Field& field, int row) { return RowDefault(field, row); };
     std::string text;
     switch (schema.kind) {
         case FileKind::Data:
@@ -86,10 +89,10 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
             text = Write(
                 schema, run,
                 [&](const Field& field, int row) {
-                    if (field.resetByRebuild) return field.defaultValue;
+                    if (field.resetByRebuild) return RowDefault(field, row);
                     std::string value = run.files.ReadTableValue(path, OldKey(field, row),
                                                                  SubTableOf(schema, field));
-                    return value.empty() ? field.defaultValue : value;
+                    return value.empty() ? RowDefault(field, row) : value;
                 },
                 [&](const Field& field) {
                     return field.resetByRebuild ? std::vector<ListEntry>{}
