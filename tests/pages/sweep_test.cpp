@@ -63,6 +63,17 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"UserActions~Spells~Settings", "the builder writes the delay before the wards flag"},
         {"UserActions~Insults~Medieval",
          "the builder names the third list tThreee, the page tThree"},
+        {"Games~Trivia~Settings", "the builder writes its keys in an order of its own"},
+        {"Games~Anagrams", "the builder writes its keys in an order of its own"},
+        {"Games~CodeBreaker", "the builder writes its keys in an order of its own"},
+        {"Games~GuessTheNumber", "the builder writes its keys in an order of its own"},
+        {"Games~Hangman",
+         "the builder writes its keys in an order of its own, and the allowed letters empty"},
+        {"Games~Numbers",
+         "the builder writes its keys in an order of its own, and iQuestions with one blank"},
+        {"Games~Trivia~Questions",
+         "the builder writes the default's key in brackets with no tab; the page the plain key"},
+        {"UserActions~Jokes~Files", "no builder makes JokeFiles.tbl: the page's save makes it"},
     };
     return pages;
 }
@@ -120,6 +131,23 @@ const std::map<std::string, std::pair<std::string, std::string>>& OpenFailsWitho
     return pages;
 }
 
+// Pages that open over one missing file with a value their SAVE refuses to write: by page, the
+// file, the message SAVE shows instead, and the reason.
+struct Refusal {
+    std::string file;
+    std::string message;
+    std::string reason;
+};
+const std::map<std::string, Refusal>& SaveRefusedWithoutFile() {
+    static const std::map<std::string, Refusal> pages = {
+        {"Games~Hangman",
+         {"Games/Hangman/HangmanSettings.tbl",
+          "message: Hidden Character required: A Hint Character is required -> OK",
+          "the hint box shows empty without the file, and SAVE refuses an empty hint"}},
+    };
+    return pages;
+}
+
 // A settings file's path below the settings folder, as the tree lists it.
 std::string TreePath(const std::string& file) {
     std::string path = file;
@@ -127,16 +155,27 @@ std::string TreePath(const std::string& file) {
     return path;
 }
 
-// The keys of a file's own table: every line one tab deep that names a key.
+// The keys of a file's own table: every line one tab deep that names a key, without the blanks
+// the readers trim from it.
 std::set<std::string> TopKeys(const std::string& text) {
     std::set<std::string> keys;
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);) {
         if (line.size() < 2 || line[0] != '\t' || line[1] == '\t') continue;
         const size_t equals = line.find(" = ");
-        if (equals != std::string::npos) keys.insert(line.substr(1, equals - 1));
+        if (equals == std::string::npos) continue;
+        std::string key = line.substr(1, equals - 1);
+        key.erase(key.find_last_not_of(' ') + 1);
+        keys.insert(key);
     }
     return keys;
+}
+
+// The start of a key's line as the page writes it: its own name for the key, where it has one.
+std::string PageLine(const store::FileSchema& file, const store::Field& field) {
+    const auto form = file.pageForm.lines.find(field.key);
+    const bool named = form != file.pageForm.lines.end() && !form->second.name.empty();
+    return "\t" + (named ? form->second.name : field.key) + " = ";
 }
 
 class Sweep : public ::testing::Test, protected test::PageHarness {
@@ -285,23 +324,29 @@ TEST_F(Sweep, ANumberTheFileLacksShowsItsDefaultAndSavesIt) {
         shell::Page* page = container.Open(key);
         ASSERT_NE(page, nullptr) << key;
         Press(*page, "SAVE");
-        std::vector<std::pair<std::string, const store::Field*>> written;
+        struct Written {
+            std::string path;
+            const store::FileSchema* file;
+            const store::Field* field;
+        };
+        std::vector<Written> written;
         for (const store::FileSchema* file : page->Files()) {
             const std::string path = TreePath(file->file);
             if (!built_.contains(path)) continue;
             const std::set<std::string> keys = TopKeys(hub.ReadSetting(path));
             for (const store::Field& field : file->fields) {
                 if (field.kind == store::FieldKind::Number && keys.contains(field.key)) {
-                    written.emplace_back(path, &field);
+                    written.push_back({path, file, &field});
                 }
             }
         }
         ASSERT_TRUE(container.Close(*page));
         Restore();
 
-        for (const auto& [path, field] : written) {
+        for (const auto& [path, file, field] : written) {
             SCOPED_TRACE(key + ": " + path + ": " + field->key);
             ++numbers;
+            // The builder's line, which the file now lacks, and the page's.
             const std::string line = "\t" + field->key + " = ";
             std::string lacking;
             std::istringstream lines(built_.at(path));
@@ -311,8 +356,9 @@ TEST_F(Sweep, ANumberTheFileLacksShowsItsDefaultAndSavesIt) {
             hub.WriteSetting(path, lacking);
             page = container.Open(key);
             Press(*page, "SAVE");
-            EXPECT_NE(hub.ReadSetting(path).find(line + field->defaultValue + ","),
-                      std::string::npos)
+            EXPECT_NE(
+                hub.ReadSetting(path).find(PageLine(*file, *field) + field->defaultValue + ","),
+                std::string::npos)
                 << hub.ReadSetting(path);
             EXPECT_TRUE(container.Close(*page));
             Restore();
@@ -358,6 +404,20 @@ TEST_F(Sweep, APageSavedOverItsMissingFilesWritesThemWhole) {
             if (const auto fails = OpenFailsWithoutFile().find(key);
                 fails != OpenFailsWithoutFile().end() && fails->second.first == path) {
                 EXPECT_THROW(container.Open(key), store::FatalError) << fails->second.second;
+                Restore();
+                continue;
+            }
+            if (const auto refused = SaveRefusedWithoutFile().find(key);
+                refused != SaveRefusedWithoutFile().end() && refused->second.file == path) {
+                page = container.Open(key);
+                MakeOneChange(*page);
+                host.QueueAnswer(shell::Answer::OK);
+                Press(*page, "SAVE");
+                EXPECT_FALSE(fs::exists(hub.Settings() / path)) << refused->second.reason;
+                EXPECT_NE(transcript.str().find(refused->second.message), std::string::npos)
+                    << refused->second.reason;
+                EXPECT_FALSE(page->SaveRequired());
+                EXPECT_TRUE(container.Close(*page));
                 Restore();
                 continue;
             }
