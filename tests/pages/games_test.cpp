@@ -3,6 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <vector>
+
 #include "support/area_rebuild.h"
 #include "support/page_harness.h"
 
@@ -245,6 +250,45 @@ class GamePages : public ::testing::Test, protected test::PageHarness {
         builders.BuildArea(store::Area::Games, run);
     }
 };
+
+// The files of a folder opened since the last look, as the kernel tells of them.
+class OpenWatch {
+  public:
+    explicit OpenWatch(const std::filesystem::path& folder) : fd_(inotify_init1(IN_NONBLOCK)) {
+        inotify_add_watch(fd_, folder.c_str(), IN_OPEN);
+    }
+    ~OpenWatch() { close(fd_); }
+    OpenWatch(const OpenWatch&) = delete;
+    OpenWatch& operator=(const OpenWatch&) = delete;
+
+    std::vector<std::string> Opened() const {
+        std::vector<std::string> names;
+        alignas(inotify_event) char buffer[4096];
+        for (ssize_t got; (got = read(fd_, buffer, sizeof buffer)) > 0;) {
+            for (char* at = buffer; at < buffer + got;) {
+                const auto* event = reinterpret_cast<const inotify_event*>(at);
+                if (event->len > 0) names.emplace_back(event->name);
+                at += sizeof(inotify_event) + event->len;
+            }
+        }
+        return names;
+    }
+
+  private:
+    int fd_;
+};
+
+// A question file may hold many thousands of lines: the page reads one only when asked to.
+TEST_F(GamePages, OpeningTheQuestionPageReadsNoQuestionFileUntilEditAsks) {
+    const OpenWatch watch(hub.Settings() / "Games/Trivia/QuestionFiles");
+    shell::Page* page = container.Open("Games~Trivia~Questions");
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(watch.Opened(), std::vector<std::string>{});
+    host.QueueAnswer(shell::Answer::OK);
+    EXPECT_TRUE(Click(*page, "tlbQuestionFiles", "EDIT"));
+    EXPECT_EQ(watch.Opened(), std::vector<std::string>{"TriviaQuestions.lst"});
+    EXPECT_TRUE(container.Close(*page));
+}
 
 TEST_F(GamePages, APageSaveAndTheBuildersFileHoldTheSameValues) {
     for (const char* key : {"Games~Trivia~Settings", "Games~Anagrams", "Games~CodeBreaker",

@@ -96,8 +96,6 @@ class QuestionFilesPage : public shell::Page {
     }
 
   protected:
-    void Setup() override { CloseEditor(); }
-
     void LoadSettings() override {
         files_.Clear();
         combo_.ClearItems();
@@ -159,8 +157,9 @@ class QuestionFilesPage : public shell::Page {
 
     std::string PathOf(const std::string& name) const { return member_.folder + name + ".lst"; }
 
-    void Warn(const shell::Prompt& prompt) {
-        context_.host.ShowMessage({prompt.text, prompt.title, Buttons::OK, prompt.icon});
+    // The refusal of a delete that would leave a list empty.
+    void CannotDelete(const std::string& text) {
+        context_.host.ShowMessage({text, "Cannot delete", Buttons::OK, Icon::Critical});
     }
 
     bool Ask(const std::string& text, const std::string& title) {
@@ -233,7 +232,7 @@ class QuestionFilesPage : public shell::Page {
         const int row = FileRow();
         if (row == 0) return;
         if (combo_.Items().size() == 1) {
-            Warn(words_.fileFloor);
+            CannotDelete(words_.fileFloor);
             return;
         }
         const std::string name = files_.Row(row).text;
@@ -334,11 +333,11 @@ class QuestionFilesPage : public shell::Page {
     void DeleteQuestion() {
         if (rows_.Count() == 0) return;
         if (rows_.Count() == 1) {
-            Warn(words_.rowFloor);
+            CannotDelete(words_.rowFloor);
             return;
         }
         const int row = rows_.Selected() != 0 ? rows_.Selected() : 1;
-        if (!Ask(words_.rowConfirm.text, words_.rowConfirm.title)) return;
+        if (!Ask(words_.rowConfirm, words_.rowConfirmTitle)) return;
         rows_.Remove(row);
         rows_.Select(1);
     }

@@ -20,14 +20,15 @@ struct QuestionWords {
     std::string openFolder;   // its starting folder, below the scripts folder
     std::string loadWarning;  // asked before a file is read
     std::string sample;       // the line a new file holds
-    shell::Prompt fileFloor;  // the refusal to delete the last file
+    std::string fileFloor;    // why the last file can't be deleted ("Cannot delete")
     std::string fileConfirm;  // the title of the question before a file leaves the list
     std::string addTitle;     // the dialogs
     std::vector<std::string> addLabels;
     std::string editTitle;
     std::vector<std::string> editLabels;
-    shell::Prompt rowFloor;    // the refusal to delete the last row
-    shell::Prompt rowConfirm;  // the question before a row goes
+    std::string rowFloor;         // why the last row can't be deleted ("Cannot delete")
+    std::string rowConfirm;       // the question before a row goes
+    std::string rowConfirmTitle;  // and its title
 };
 
 struct QuestionFiles {

@@ -21,6 +21,7 @@ namespace qb::pages {
 struct QuizFlag {
     std::string key;
     std::string caption;
+    std::string defaultValue;
 };
 
 // A number in the text box of the array txtTextBoxUpDown at its index, set with its spin control
@@ -29,6 +30,7 @@ struct QuizFlag {
 struct QuizNumber {
     std::string key;
     std::string caption;
+    std::string defaultValue;
     store::Range range;
 };
 
@@ -78,7 +80,8 @@ struct QuizGame {
     std::string prefix;    // of the three files the scripts fill: "Anagram"
     shell::PageSize size;
     std::string checks = "chkCheckBox";  // the check box array
-    // The game's default lookup: every key it answers, with the answer; some keys no file uses.
+    // What the game's default lookup answers beyond its flags' and numbers' defaults: the
+    // strings and options, and the keys no file of the game uses.
     std::vector<store::ListEntry> defaults;
     // The check boxes past the six that every game has.
     std::vector<QuizFlag> flags;
@@ -103,8 +106,6 @@ struct QuizGame {
 
 // The six check boxes every game has, in the order of their array.
 const std::vector<QuizFlag>& SharedQuizFlags();
-// Their defaults, for the games' lookups.
-const std::vector<store::ListEntry>& SharedQuizDefaults();
 
 // The game's settings file. The game must outlive the program's registries.
 const store::FileSchema& QuizSettingsSchema(const QuizGame& game);

@@ -15,11 +15,17 @@ std::string Indexed(const std::string& array, size_t index) {
     return array + "(" + std::to_string(index) + ")";
 }
 
+// The game's default lookup: key in, default out, empty for a key it doesn't know.
 std::string DefaultIn(const QuizGame& game, const std::string& key) {
-    for (const store::ListEntry& entry : game.defaults) {
-        if (entry.key == key) return entry.value;
+    for (const auto* flags : {&SharedQuizFlags(), &game.flags}) {
+        for (const QuizFlag& flag : *flags) {
+            if (flag.key == key) return flag.defaultValue;
+        }
     }
-    for (const store::ListEntry& entry : SharedQuizDefaults()) {
+    for (const QuizNumber& number : game.numbers) {
+        if (number.key == key) return number.defaultValue;
+    }
+    for (const store::ListEntry& entry : game.defaults) {
         if (entry.key == key) return entry.value;
     }
     return {};
@@ -254,19 +260,14 @@ store::BuildStep DataFile(std::string file, std::string text) {
 
 const std::vector<QuizFlag>& SharedQuizFlags() {
     static const std::vector<QuizFlag> flags = {
-        {"bManualStart", "Manual Start Only"},     {"bOpOnlyStart", "Operator Start"},
-        {"bOpOnlyStop", "Operator Stop"},          {"bPlayInMain", "Play Game In Main"},
-        {"bAutoClearScores", "Auto Clear Scores"}, {"bArchiveScores", "Auto Archive Scores"},
+        {"bManualStart", "Manual Start Only", "0"},
+        {"bOpOnlyStart", "Operator Start", "0"},
+        {"bOpOnlyStop", "Operator Stop", "0"},
+        {"bPlayInMain", "Play Game In Main", "1"},
+        {"bAutoClearScores", "Auto Clear Scores", "1"},
+        {"bArchiveScores", "Auto Archive Scores", "1"},
     };
     return flags;
-}
-
-const std::vector<store::ListEntry>& SharedQuizDefaults() {
-    static const std::vector<store::ListEntry> defaults = {
-        {"bManualStart", "0"}, {"bOpOnlyStart", "0"},     {"bOpOnlyStop", "0"},
-        {"bPlayInMain", "1"},  {"bAutoClearScores", "1"}, {"bArchiveScores", "1"},
-    };
-    return defaults;
 }
 
 const store::FileSchema& QuizSettingsSchema(const QuizGame& game) {

@@ -42,16 +42,15 @@ const QuestionFiles& TriviaQuestions() {
                 .loadWarning =
                     "Loading the question file may take some time. Do you wish to proceed?",
                 .sample = "Literature: Who wrote Hamlet?*shakespeare",
-                .fileFloor = {"There must be a minimum of one Question File", "Cannot delete",
-                              shell::Icon::Critical},
+                .fileFloor = "There must be a minimum of one Question File",
                 .fileConfirm = "Delete Question File?",
                 .addTitle = "Add Trivia Question",
                 .addLabels = {"Category", "Question", "Answer"},
                 .editTitle = "Edit Trivia Question",
                 .editLabels = {"Category", "Question", "Answer"},
-                .rowFloor = {"There must be a minimum of one Question", "Cannot delete",
-                             shell::Icon::Critical},
-                .rowConfirm = {"Do you really want to delete this question?", "Delete Question?"},
+                .rowFloor = "There must be a minimum of one Question",
+                .rowConfirm = "Do you really want to delete this question?",
+                .rowConfirmTitle = "Delete Question?",
             },
     };
     return member;

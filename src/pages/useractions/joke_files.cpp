@@ -42,17 +42,16 @@ const QuestionFiles& JokeFiles() {
                 .openFolder = "\\Vandrell's Quillbook\\Settings\\UserActions\\Jokes\\",
                 .loadWarning = "Loading the Joke file may take some time. Do you wish to proceed?",
                 .sample = "Cannot find REALITY.SYS. Universe halted.",
-                .fileFloor = {"There must be a minimum of one Joke File", "Cannot delete",
-                              shell::Icon::Critical},
+                .fileFloor = "There must be a minimum of one Joke File",
                 .fileConfirm = "Delete Joke File?",
                 // The add dialog's field is "Joke", the edit dialog's "Jokes".
                 .addTitle = "Add Joke",
                 .addLabels = {"Joke"},
                 .editTitle = "Edit Trivia Joke",
                 .editLabels = {"Jokes"},
-                .rowFloor = {"There must be a minimum of one Joke", "Cannot delete",
-                             shell::Icon::Critical},
-                .rowConfirm = {"Do you really want to delete this Joke?", "Delete Joke?"},
+                .rowFloor = "There must be a minimum of one Joke",
+                .rowConfirm = "Do you really want to delete this Joke?",
+                .rowConfirmTitle = "Delete Joke?",
             },
     };
     return member;
