@@ -16,6 +16,17 @@ namespace {
 
 using test::Crlf;
 
+// A settings file as the builder writes those of Anagrams, CodeBreaker, GuessTheNumber and
+// Hangman: the game's own keys, then the six flags and the archive count, here at their defaults.
+std::string Built(std::initializer_list<std::string_view> head) {
+    std::string text;
+    for (std::string_view line : head)
+        text += std::string(line) + "\r\n";
+    return text + Crlf({"\tbManualStart = 0,", "\tbOpOnlyStart = 0,", "\tbOpOnlyStop = 0,",
+                        "\tbPlayInMain = 1,", "\tbAutoClearScores = 1,", "\tbArchiveScores = 1,",
+                        "\tiArchiveScores = 5,", "}"});
+}
+
 class GamesRebuild : public test::AreaRebuild {
   protected:
     GamesRebuild() : AreaRebuild(store::Area::Games, "Games/") {}
@@ -48,75 +59,26 @@ TEST_F(GamesRebuild, AFreshTreeHoldsEveryDefaultInTheBuildersOrder) {
                                                        "}"}));
     // The lookup knows sHintChar, not sHiddenChar; the allowed characters stay whole.
     EXPECT_EQ(Read("CodeBreaker/CodeBreakerSettings.tbl"),
-              Crlf({"tCodeBreakerSettings = {",
-                    "\tsHiddenChar = \"\",",
-                    "\tsAllowedCharacters = \"0123456789\",",
-                    "\tiTimeOut = 3,",
-                    "\tiQuestions = 20,",
-                    "\tiQuestionLength = 3,",
-                    "\tiQuestionsTime = 90,",
-                    "\tiQuestionsPause = 10,",
-                    "\tiTopScores = 10,",
-                    "\tiScores = 25,",
-                    "\tiPoints = 1,",
-                    "\tiAutoStartDelay = 73,",
-                    "\tbManualStart = 0,",
-                    "\tbOpOnlyStart = 0,",
-                    "\tbOpOnlyStop = 0,",
-                    "\tbPlayInMain = 1,",
-                    "\tbAutoClearScores = 1,",
-                    "\tbArchiveScores = 1,",
-                    "\tiArchiveScores = 5,",
-                    "}"}));
-    EXPECT_EQ(Read("Hangman/HangmanSettings.tbl"), Crlf({"tHangmanSettings = {",
-                                                         "\tbUseAscii = 1,",
-                                                         "\tsHiddenChar = \"\x95\",",
-                                                         "\tsAllowedCharacters = \"\",",
-                                                         "\tiLostLifeTime = 30,",
-                                                         "\tiTimeOut = 3,",
-                                                         "\tiQuestions = 10,",
-                                                         "\tiQuestionsPause = 10,",
-                                                         "\tiTopScores = 10,",
-                                                         "\tiScores = 25,",
-                                                         "\tiPoints = 6,",
-                                                         "\tiAutoStartDelay = 67,",
-                                                         "\tbManualStart = 0,",
-                                                         "\tbOpOnlyStart = 0,",
-                                                         "\tbOpOnlyStop = 0,",
-                                                         "\tbPlayInMain = 1,",
-                                                         "\tbAutoClearScores = 1,",
-                                                         "\tbArchiveScores = 1,",
-                                                         "\tiArchiveScores = 5,",
-                                                         "}"}));
+              Built({"tCodeBreakerSettings = {", "\tsHiddenChar = \"\",",
+                     "\tsAllowedCharacters = \"0123456789\",", "\tiTimeOut = 3,",
+                     "\tiQuestions = 20,", "\tiQuestionLength = 3,", "\tiQuestionsTime = 90,",
+                     "\tiQuestionsPause = 10,", "\tiTopScores = 10,", "\tiScores = 25,",
+                     "\tiPoints = 1,", "\tiAutoStartDelay = 73,"}));
+    EXPECT_EQ(Read("Hangman/HangmanSettings.tbl"),
+              Built({"tHangmanSettings = {", "\tbUseAscii = 1,", "\tsHiddenChar = \"\x95\",",
+                     "\tsAllowedCharacters = \"\",", "\tiLostLifeTime = 30,", "\tiTimeOut = 3,",
+                     "\tiQuestions = 10,", "\tiQuestionsPause = 10,", "\tiTopScores = 10,",
+                     "\tiScores = 25,", "\tiPoints = 6,", "\tiAutoStartDelay = 67,"}));
     EXPECT_EQ(Read("GuessTheNumber/GuessTheNumberSettings.tbl"),
-              Crlf({"tGuessTheNumberSettings = {",
-                    "\tiTimeOut = 3,",
-                    "\tiHintTime = 20,",
-                    "\tiHints = 5,",
-                    "\tiMaxHints = 20,",
-                    "\tiQuestions = 12,",
-                    "\tiQuestionMin = 1,",
-                    "\tiQuestionMax = 500,",
-                    "\tiQuestionsPause = 10,",
-                    "\tiTopScores = 10,",
-                    "\tiScores = 25,",
-                    "\tiAutoStartDelay = 111,",
-                    "\tbManualStart = 0,",
-                    "\tbOpOnlyStart = 0,",
-                    "\tbOpOnlyStop = 0,",
-                    "\tbPlayInMain = 1,",
-                    "\tbAutoClearScores = 1,",
-                    "\tbArchiveScores = 1,",
-                    "\tiArchiveScores = 5,",
-                    "}"}));
-    EXPECT_EQ(
-        Read("Anagrams/AnagramSettings.tbl"),
-        Crlf({"tAnagramSettings = {", "\tiTimeOut = 3,", "\tsHintChar = \"\x95\",",
-              "\tiHintTime = 20,", "\tiBonusTime = 10,", "\tiQuestions = 20,",
-              "\tiQuestionsPause = 10,", "\tiTopScores = 10,", "\tiScores = 25,", "\tiPoints = 1,",
-              "\tiAutoStartDelay = 73,", "\tbManualStart = 0,", "\tbOpOnlyStart = 0,",
-              "\tbOpOnlyStop = 0,", "\tbPlayInMain = 1,", "\tbAutoClearScores = 1,",
-              "\tbArchiveScores = 1,", "\tiArchiveScores = 5,", "}"}));
+              Built({"tGuessTheNumberSettings = {", "\tiTimeOut = 3,", "\tiHintTime = 20,",
+                     "\tiHints = 5,", "\tiMaxHints = 20,", "\tiQuestions = 12,",
+                     "\tiQuestionMin = 1,", "\tiQuestionMax = 500,", "\tiQuestionsPause = 10,",
+                     "\tiTopScores = 10,", "\tiScores = 25,", "\tiAutoStartDelay = 111,"}));
+    EXPECT_EQ(Read("Anagrams/AnagramSettings.tbl"),
+              Built({"tAnagramSettings = {", "\tiTimeOut = 3,", "\tsHintChar = \"\x95\",",
+                     "\tiHintTime = 20,", "\tiBonusTime = 10,", "\tiQuestions = 20,",
+                     "\tiQuestionsPause = 10,", "\tiTopScores = 10,", "\tiScores = 25,",
+                     "\tiPoints = 1,", "\tiAutoStartDelay = 73,"}));
     EXPECT_EQ(Read("Numbers/NumbersSettings.tbl"), Crlf({"tNumbersSettings = {",
                                                          "\tiTimeOut = 3,",
                                                          "\tiBonusTime = 10,",
