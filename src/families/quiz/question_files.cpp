@@ -192,8 +192,8 @@ class QuestionFilesPage : public shell::Page {
     // folder it was chosen in. A name that begins a listed one, letter case and all, is passed
     // over without a word.
     void AddQuestionFile() {
-        const auto path =
-            context_.host.AskFile(words_.openTitle, "(*.lst)|*.lst", words_.openFolder);
+        const auto path = context_.host.AskFile(words_.openTitle, "(*.lst)|*.lst",
+                                                context_.files.ProgramFolder() + words_.openFolder);
         if (!path || path->size() < 5) return;
         std::string name = path->substr(path->find_last_of('\\') + 1);
         name = name.substr(0, name.size() >= 4 ? name.size() - 4 : 0);
