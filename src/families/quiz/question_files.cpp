@@ -19,8 +19,6 @@ using shell::ListControl;
 using shell::Toolbar;
 
 constexpr std::string_view kNewline = store::kNewline;
-// The length of "sDefaultQuestionFile", by which a row of the default's key is known.
-constexpr size_t kDefaultKeyLength = 20;
 
 shell::PageDecl MakeDecl(const QuestionFiles& member) {
     using namespace shell::decl;
@@ -84,14 +82,15 @@ class QuestionFilesPage : public shell::Page {
             if (files_.Count() > 0) OpenQuestionFile();
         };
         rows_.onDoubleClick = [this](int) { EditQuestion(); };
-        // The shared menu acts on the list last right-clicked, as its toolbar would.
-        files_.onRightClick = [this](int) { PopUp(fileBar_, {"NEW", "DELETE", "EDIT"}); };
-        rows_.onRightClick = [this](int) { PopUp(rowBar_, {"NEW", "DELETE", "EDIT"}); };
-        const std::vector<std::string> entries = {"Add", "Delete", "Edit"};
-        for (size_t at = 0; at < entries.size(); ++at) {
-            PublishMenuMethod("gMenuFirst" + entries[at] + "Click", [this, at] {
-                if (popped_ != nullptr) popped_->toolbar->UserClick(popped_->keys[at]);
-            });
+        // The shared menu acts on the list last right-clicked, as its toolbar's buttons would.
+        files_.onRightClick = [this](int) { PopUp(fileBar_); };
+        rows_.onRightClick = [this](int) { PopUp(rowBar_); };
+        for (const auto& [entry, button] :
+             {std::pair{"Add", "NEW"}, std::pair{"Delete", "DELETE"}, std::pair{"Edit", "EDIT"}}) {
+            PublishMenuMethod(std::string("gMenuFirst") + entry + "Click",
+                              [this, key = std::string(button)] {
+                                  if (popped_ != nullptr) popped_->UserClick(key);
+                              });
         }
     }
 
@@ -108,14 +107,15 @@ class QuestionFilesPage : public shell::Page {
         if (name.empty()) return;
         files_.Append("1ID", name);
         shell::LoadFileNameRows(context_.files, schema.file, files_, schema.table);
-        // The builder's bracketed key reads as a row of its own: it goes, as does the plain key.
+        // The default's key reads as a row of its own, bracketed as the builder writes it or
+        // plain: a row that begins with it goes.
         for (int row = files_.Count(); row >= 2; --row) {
             std::string text = files_.Row(row).text;
             if (text.starts_with("[\"")) {
-                text = text.substr(2, kDefaultKeyLength);
+                text = text.substr(2, defaultKey.size());
                 files_.SetText(row, text);
             }
-            if (text.substr(0, kDefaultKeyLength) == defaultKey) files_.Remove(row);
+            if (text.substr(0, defaultKey.size()) == defaultKey) files_.Remove(row);
         }
         for (const shell::ListRow& row : files_.Rows())
             combo_.AddItem(row.text);
@@ -137,14 +137,8 @@ class QuestionFilesPage : public shell::Page {
     }
 
   private:
-    struct Popped {
-        Toolbar* toolbar;
-        std::vector<std::string> keys;
-    };
-
-    void PopUp(Toolbar& toolbar, std::vector<std::string> keys) {
-        popup_ = {&toolbar, std::move(keys)};
-        popped_ = &popup_;
+    void PopUp(Toolbar& toolbar) {
+        popped_ = &toolbar;
         ShowPopupMenu("mnuFirst");
     }
 
@@ -374,8 +368,7 @@ class QuestionFilesPage : public shell::Page {
     Toolbar& fileBar_;
     ListControl& rows_;
     Toolbar& rowBar_;
-    Popped popup_{};
-    Popped* popped_ = nullptr;
+    Toolbar* popped_ = nullptr;
 };
 
 }  // namespace
