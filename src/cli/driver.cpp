@@ -231,6 +231,11 @@ void Driver::Execute(const std::vector<std::string>& words) {
                 done =
                     static_cast<shell::UpDown&>(control).UserSetValue(ParseNumber(value, "VALUE"));
                 break;
+            case ControlKind::Option:
+                // An option is turned off only by picking another of its group.
+                done = ParseNumber(value, "VALUE") == 1 &&
+                       static_cast<shell::OptionButton&>(control).UserClick();
+                break;
             default:
                 throw ScriptError(words[1] + " takes no value");
         }
@@ -252,6 +257,8 @@ void Driver::Execute(const std::vector<std::string>& words) {
         } else if (control.Kind() == ControlKind::Check && words.size() == 2) {
             auto& check = static_cast<shell::CheckBox&>(control);
             done = check.UserSetValue(check.Value() == 1 ? 0 : 1);
+        } else if (control.Kind() == ControlKind::Option && words.size() == 2) {
+            done = static_cast<shell::OptionButton&>(control).UserClick();
         } else {
             throw ScriptError(words[1] + " can't be clicked so");
         }

@@ -70,6 +70,8 @@ const char* KindName(ControlKind kind) {
             return "button";
         case ControlKind::Tooltip:
             return "tooltip";
+        case ControlKind::Option:
+            return "option";
     }
     return "?";
 }
@@ -132,6 +134,12 @@ void ControlJson(std::string& out, const Control& control) {
             const auto& check = static_cast<const shell::CheckBox&>(control);
             json.Text("caption", check.Caption());
             json.Number("value", check.Value());
+            break;
+        }
+        case ControlKind::Option: {
+            const auto& option = static_cast<const shell::OptionButton&>(control);
+            json.Text("caption", option.Caption());
+            json.Number("value", option.Value());
             break;
         }
         case ControlKind::Text: {

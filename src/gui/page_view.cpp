@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -482,6 +483,26 @@ PageView::Shown PageView::Build(const shell::Control& constControl) {
             connect(box, &QCheckBox::clicked, box,
                     [&check](bool on) { Guard([&] { check.UserSetValue(on ? 1 : 0); }); });
             return {nullptr, box};
+        }
+        case ControlKind::Option: {
+            auto& option = static_cast<shell::OptionButton&>(control);
+            auto* button = new QRadioButton;
+            button->setObjectName(name);
+            // The model keeps its groups: the widget never turns a sibling off by itself.
+            button->setAutoExclusive(false);
+            auto sync = [&option, button] {
+                button->setText(ToQt(option.Caption()));
+                button->setChecked(option.Value() == 1);
+                SyncCommon(option, button);
+            };
+            option.SetListener(sync);
+            sync();
+            connect(button, &QRadioButton::clicked, button, [&option, button] {
+                Guard([&] { option.UserClick(); });
+                // A click on the option that is on leaves it on.
+                button->setChecked(option.Value() == 1);
+            });
+            return {nullptr, button};
         }
         case ControlKind::Combo: {
             auto& combo = static_cast<shell::ComboBox&>(control);

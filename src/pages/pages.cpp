@@ -3,6 +3,7 @@
 #include "pages/archive/archive.h"
 #include "pages/communication/communication.h"
 #include "pages/customiseuser/customiseuser.h"
+#include "pages/games/games.h"
 #include "pages/general/general.h"
 #include "pages/language/language.h"
 #include "pages/security/security.h"
@@ -16,6 +17,7 @@ void RegisterAllPages(shell::PageRegistry& registry, const PageServices& service
     RegisterLanguagePages(registry);
     RegisterCommunicationPages(registry, services);
     RegisterSecurityPages(registry);
+    RegisterGamePages(registry);
     RegisterUserActionPages(registry);
     RegisterArchivePages(registry);
 }
@@ -25,6 +27,7 @@ void RegisterAllBuilders(store::BuilderRegistry& builders) {
     RegisterCustomiseUserBuilders(builders);
     RegisterGeneralBuilders(builders);
     RegisterCommunicationBuilders(builders);
+    RegisterGameBuilders(builders);
     RegisterSecurityBuilders(builders);
     RegisterUserActionBuilders(builders);
 }

@@ -81,12 +81,64 @@ class TextBinding : public Binding {
         if (quirks_.initial && value.empty()) return;
         box_.SetText(NumberOrDefault(std::move(value), *this));
     }
-    void Restore(const store::ProfileList&) override { box_.SetText(DefaultOfBound(*this)); }
+    void Restore(const store::ProfileList&) override {
+        box_.SetText(quirks_.restoreValue.value_or(DefaultOfBound(*this)));
+    }
     std::string Value(int) const override { return box_.Text(); }
 
   private:
     TextBox& box_;
     Quirks quirks_;
+};
+
+// A group of option buttons that stand for the values of one field: the one of the file's value
+// is on. A value no option stands for turns none on and is saved as it stands until the user
+// picks one.
+class OptionsBinding : public Binding {
+  public:
+    OptionsBinding(const store::FileSchema& file, const store::Field& field, std::string key,
+                   OptionButton& button, std::string value)
+        : Binding(file, field, std::move(key)) {
+        options_.push_back({&button, std::move(value)});
+    }
+    bool Join(Control& control, const ControlDecl& decl) override {
+        if (control.Kind() != ControlKind::Option || decl.key != Key()) return false;
+        auto& button = static_cast<OptionButton&>(control);
+        options_.front().button->Join(button);
+        options_.push_back({&button, decl.value});
+        return true;
+    }
+    void Load(store::TableFiles& files, const store::ProfileList&) override {
+        Show(NumberOrDefault(ReadBound(files, *this), *this));
+    }
+    void Restore(const store::ProfileList&) override { Show(DefaultOfBound(*this)); }
+    std::string Value(int) const override {
+        for (const Choice& option : options_) {
+            if (option.button->Value() == 1) return option.value;
+        }
+        return held_;
+    }
+
+  private:
+    struct Choice {
+        OptionButton* button;
+        std::string value;
+    };
+    void Show(const std::string& value) {
+        held_ = value;
+        bool shown = false;
+        for (const Choice& option : options_) {
+            if (option.value != value) continue;
+            option.button->SetValue(1);
+            shown = true;
+        }
+        if (shown) return;
+        for (const Choice& option : options_)
+            option.button->SetValue(0);
+    }
+
+    std::vector<Choice> options_;
+    std::string held_;
 };
 
 // A combo shows a choice by name and the file holds it in its own form.
@@ -380,6 +432,8 @@ std::unique_ptr<Control> MakeControl(const ControlDecl& decl) {
             return std::make_unique<Button>(decl.name, decl.caption);
         case ControlKind::Tooltip:
             return std::make_unique<Tooltip>(decl.name);
+        case ControlKind::Option:
+            return std::make_unique<OptionButton>(decl.name, decl.caption);
         case ControlKind::UpDown:
         case ControlKind::StatusBar:
             break;
@@ -391,29 +445,44 @@ std::unique_ptr<Binding> Bind(const ControlDecl& decl, const store::FileSchema* 
                               Control& control, Control* textBox,
                               const std::function<void()>& markDirty) {
     // Every change of a control that feeds a file marks the page, the bound ones and the few that
-    // only mark it.
+    // only mark it; a control that has never marked the page still doesn't.
+    const std::function<void()> marks =
+        decl.quirks.unmarked ? std::function<void()>([] {}) : markDirty;
     switch (control.Kind()) {
         case ControlKind::Check:
-            static_cast<CheckBox&>(control).onClick = markDirty;
+            static_cast<CheckBox&>(control).onClick = marks;
             break;
-        case ControlKind::Text:
-            static_cast<TextBox&>(control).onChange = markDirty;
+        case ControlKind::Option:
+            static_cast<OptionButton&>(control).onClick = marks;
             break;
+        case ControlKind::Text: {
+            auto& box = static_cast<TextBox&>(control);
+            if (!decl.quirks.oneCharacter) {
+                box.onChange = marks;
+                break;
+            }
+            // The box keeps one character: the key that made it longer is cut away again.
+            box.onChange = [&box, marks] {
+                if (box.Text().size() > 1) box.SetText(box.Text().substr(0, 1));
+                marks();
+            };
+            break;
+        }
         case ControlKind::Combo:
-            static_cast<ComboBox&>(control).onClick = markDirty;
+            static_cast<ComboBox&>(control).onClick = marks;
             break;
         case ControlKind::UpDown: {
             auto& upDown = static_cast<UpDown&>(control);
             auto* box = static_cast<TextBox*>(textBox);
-            upDown.onChange = [&upDown, box, markDirty] {
+            upDown.onChange = [&upDown, box, marks] {
                 box->SetText(std::to_string(upDown.Value()));
-                markDirty();
+                marks();
             };
             break;
         }
         case ControlKind::List:
             if (decl.checkBoxes)
-                static_cast<ListControl&>(control).onItemCheck = [markDirty](int) { markDirty(); };
+                static_cast<ListControl&>(control).onItemCheck = [marks](int) { marks(); };
             break;
         default:
             break;
@@ -436,6 +505,9 @@ std::unique_ptr<Binding> Bind(const ControlDecl& decl, const store::FileSchema* 
             }
             return std::make_unique<ComboBinding>(*file, field, decl.key,
                                                   static_cast<ComboBox&>(control), decl.quirks);
+        case ControlKind::Option:
+            return std::make_unique<OptionsBinding>(
+                *file, field, decl.key, static_cast<OptionButton&>(control), decl.value);
         case ControlKind::UpDown:
             return std::make_unique<SpinBinding>(*file, field, decl.key,
                                                  static_cast<UpDown&>(control),

@@ -39,6 +39,9 @@ class Binding {
     virtual std::vector<store::ListEntry> Rows() const { return {}; }
     // Where the rows a list holds are the file's rows: the field as the save writes it.
     virtual void Shape(store::FileSchema&) const {}
+    // Takes in another control of the same field, as the options of one group are bound
+    // together; false where the binding holds one control only.
+    virtual bool Join(Control&, const ControlDecl&) { return false; }
 
   private:
     const store::FileSchema& file_;

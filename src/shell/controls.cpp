@@ -340,6 +340,34 @@ bool CheckBox::UserSetValue(int value) {
     return true;
 }
 
+void OptionButton::SetValue(int value) {
+    value_ = value == 1 ? 1 : 0;
+    if (value_ == 1) {
+        for (OptionButton* other : group_) {
+            if (other->value_ == 0) continue;
+            other->value_ = 0;
+            other->Changed();
+        }
+    }
+    Changed();
+}
+
+void OptionButton::Join(OptionButton& other) {
+    for (OptionButton* member : group_) {
+        member->group_.push_back(&other);
+        other.group_.push_back(member);
+    }
+    group_.push_back(&other);
+    other.group_.push_back(this);
+}
+
+bool OptionButton::UserClick() {
+    if (!Enabled()) return false;
+    SetValue(1);
+    if (onClick) onClick();
+    return true;
+}
+
 void ComboBox::AddItem(std::string item) {
     items_.push_back(std::move(item));
     Changed();

@@ -22,7 +22,8 @@ enum class ControlKind {
     Label,
     Frame,
     Button,
-    Tooltip
+    Tooltip,
+    Option
 };
 
 class Control {
@@ -315,6 +316,28 @@ class UpDown : public Control {
     int max_;
     int step_;
     std::string buddy_;
+};
+
+// An option button: one of a group of which at most one is on. Turning one on, in code or by the
+// user, turns the others of its group off.
+class OptionButton : public Control {
+  public:
+    OptionButton(std::string name, std::string caption)
+        : Control(ControlKind::Option, std::move(name)) {
+        SetCaption(std::move(caption));
+    }
+    int Value() const { return value_; }
+    void SetValue(int value);
+    // Puts `other` in this button's group, and this one in its.
+    void Join(OptionButton& other);
+
+    std::function<void()> onClick;
+    // A click turns the button on; the user can't turn one off but by picking another.
+    bool UserClick();
+
+  private:
+    int value_ = 0;
+    std::vector<OptionButton*> group_;
 };
 
 class Label : public Control {

@@ -43,10 +43,14 @@ void Page::MakeDeclared(const PageDecl& decl) {
         }
         Control* made = nullptr;
         if (control.kind == ControlKind::UpDown) {
-            const store::FileSchema* file = control.file ? control.file : files_.front();
-            const store::Field* field = store::FindField(*file, control.key);
-            auto& updown =
-                Add<UpDown>(control.name, field->range->min, field->range->max, field->range->step);
+            store::Range range{0, 0};
+            if (control.key.empty()) {
+                range = *control.range;
+            } else {
+                const store::FileSchema* file = control.file ? control.file : files_.front();
+                range = *store::FindField(*file, control.key)->range;
+            }
+            auto& updown = Add<UpDown>(control.name, range.min, range.max, range.step);
             updown.SetBuddy(control.textBox);
             made = &updown;
         } else {
@@ -70,9 +74,13 @@ void Page::MakeDeclared(const PageDecl& decl) {
         if (control.key.empty() && !control.marksOnly) continue;
         const store::FileSchema* file =
             control.key.empty() ? nullptr : (control.file ? control.file : files_.front());
-        if (auto binding = Bind(control, file, *made, textBox, markDirty)) {
-            bindings_.push_back(std::move(binding));
+        auto binding = Bind(control, file, *made, textBox, markDirty);
+        // The options of one field, one after the other, are one group with one binding.
+        if (binding && !bindings_.empty() && &bindings_.back()->File() == file &&
+            bindings_.back()->Join(*made, control)) {
+            continue;
         }
+        if (binding) bindings_.push_back(std::move(binding));
     }
     for (const RowEditorDecl& editor : decl.editors) {
         auto& list = Get<ListControl>(editor.list);
@@ -123,6 +131,10 @@ void Page::MakeDeclared(const PageDecl& decl) {
         if (!fills) body.items.push_back(Stretch());
         body_ = std::move(body);
     }
+}
+
+void Page::AddBinding(std::unique_ptr<Binding> binding) {
+    bindings_.push_back(std::move(binding));
 }
 
 Control& Page::Declared(const std::string& name) const {
@@ -209,6 +221,8 @@ std::string Page::BoundText(const store::FileSchema& file) const {
     const auto isBound = [&](const store::Field& field) {
         // A list bound to a whole sub-table writes it with the rows it holds, even with none.
         if (bindingOf(field, -1) != nullptr) return true;
+        // A value the page always writes the same needs no control.
+        if (file.pageForm.fixed.contains(field.key)) return true;
         if (field.kind != store::FieldKind::NamedFlags) return false;
         for (size_t row = 0; row < field.rows.size(); ++row) {
             if (bindingOf(field, static_cast<int>(row)) != nullptr) return true;

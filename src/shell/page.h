@@ -113,6 +113,9 @@ class Page {
     }
     // The row editor of a declared list.
     RowEditor& Editor(const std::string& list);
+    // Binds a control the declaration's makers can't bind, as the page's own binding; it loads,
+    // restores and saves with the declared ones, after them.
+    void AddBinding(std::unique_ptr<Binding> binding);
     // The file a bound control writes, as SAVE renders it from the bindings.
     std::string BoundText(const store::FileSchema& file) const;
     // Makes the folders of a file below the settings folder where they are missing.

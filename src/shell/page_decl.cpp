@@ -60,6 +60,25 @@ ControlDecl Spin(std::string textBox, std::string name, std::string key) {
             .textBox = std::move(textBox)};
 }
 
+ControlDecl SpinOnly(std::string textBox, std::string name, store::Range range) {
+    return {.kind = ControlKind::UpDown,
+            .name = std::move(name),
+            .textBox = std::move(textBox),
+            .range = range};
+}
+
+ControlDecl Option(std::string name, std::string key, std::string caption, std::string value) {
+    return {.kind = ControlKind::Option,
+            .name = std::move(name),
+            .caption = std::move(caption),
+            .key = std::move(key),
+            .value = std::move(value)};
+}
+
+ControlDecl Frame(std::string name, std::string caption) {
+    return {.kind = ControlKind::Frame, .name = std::move(name), .caption = std::move(caption)};
+}
+
 ControlDecl ProfileChecks(std::string name, std::string key, std::string columnText, int width) {
     return {.kind = ControlKind::List,
             .name = std::move(name),
@@ -130,6 +149,9 @@ bool Fits(const ControlDecl& control, const store::FileSchema& file, const store
         case ControlKind::Combo:
             if (control.quirks.profileCombo) return field.kind == FieldKind::Number;
             return !field.choices.empty();
+        case ControlKind::Option:
+            return field.kind == FieldKind::Number || field.kind == FieldKind::String ||
+                   field.kind == FieldKind::Flag;
         case ControlKind::UpDown:
             return field.kind == FieldKind::Number && field.range.has_value();
         case ControlKind::List:
@@ -165,6 +187,9 @@ void Validate(const PageDecl& decl) {
             if (!names.insert(name).second) fail("two controls are named " + name);
         }
         kinds[control.name] = control.kind;
+        if (control.kind == ControlKind::UpDown && control.key.empty() && !control.range) {
+            fail(control.name + " is bound to nothing and has no range");
+        }
         if (control.key.empty()) continue;
         const store::FileSchema* file = control.file;
         if (file == nullptr) {

@@ -55,6 +55,13 @@ struct Quirks {
     // after a save or a discard every name stands twice; the save takes the first profile of the
     // name shown. A number the list can't show is shown and saved as it stands.
     bool profileCombo = false;
+    // RESTORE puts this value in, not the field's default: the value a default lookup gives for
+    // another key than the field's own.
+    std::optional<std::string> restoreValue{};
+    // A text the user types is cut to its first character.
+    bool oneCharacter = false;
+    // A change the user makes doesn't mark the page: the value is saved only with another change.
+    bool unmarked = false;
 };
 
 // One control of a page.
@@ -76,6 +83,10 @@ struct ControlDecl {
     std::vector<ListColumn> columns{};
     // An up-down shows its value in a read-only text box of this name, made just before it.
     std::string textBox{};
+    // The range of an up-down bound to nothing; a bound one takes its field's.
+    std::optional<store::Range> range{};
+    // The value an option button stands for in its field.
+    std::string value{};
     bool multiLine = false;
     // A toolbar's buttons, set up when the page loads: SetupListToolbar and its like, in order.
     std::vector<void (*)(shell::Toolbar&)> setups{};
@@ -106,6 +117,13 @@ ControlDecl Text(std::string name, std::string key, std::string caption = {});
 ControlDecl Combo(std::string name, std::string key, std::string caption = {});
 // An up-down bound to a number in the field's range, shown in the read-only box `textBox`.
 ControlDecl Spin(std::string textBox, std::string name, std::string key);
+// An up-down bound to nothing, in `range`, shown in the read-only box `textBox`.
+ControlDecl SpinOnly(std::string textBox, std::string name, store::Range range);
+// An option button that stands for `value` of the field `key`. The options of one key, declared
+// one after the other, are one group: one of them is on, the one of the value the file holds.
+ControlDecl Option(std::string name, std::string key, std::string caption, std::string value);
+// A frame with a caption; the layout puts controls in it (InFrame).
+ControlDecl Frame(std::string name, std::string caption);
 // A profile check list: a row per profile, ticked from the sub-table `key`, one column of this
 // text as wide as the list less 350.
 ControlDecl ProfileChecks(std::string name, std::string key, std::string columnText, int width);

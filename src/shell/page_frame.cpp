@@ -6,7 +6,7 @@
 namespace qb::shell {
 namespace {
 
-using Buttons = std::initializer_list<std::pair<const char*, const char*>>;
+using ButtonList = std::initializer_list<std::pair<const char*, const char*>>;
 
 // Flat buttons of one size, 329.95 by 345.26 twips, as all page toolbars have them.
 void Look(Toolbar& toolbar, const char* imageList, bool border) {
@@ -16,7 +16,7 @@ void Look(Toolbar& toolbar, const char* imageList, bool border) {
     toolbar.buttonWidth = 345;
 }
 
-void AddListButtons(Toolbar& toolbar, Buttons buttons) {
+void AddListButtons(Toolbar& toolbar, ButtonList buttons) {
     Look(toolbar, "imlToolbarListview", false);
     for (const auto& [key, tip] : buttons)
         toolbar.AddButton(key, tip, key);
@@ -65,6 +65,21 @@ void SetupQuestionToolbar(Toolbar& toolbar) {
                              {"NEW", "Add new question"},
                              {"EDIT", "Edit question"},
                              {"DELETE", "Delete question"}});
+}
+
+bool ResetFileEditor(Host& host, Toolbar& toolbar, ListControl& list, bool force) {
+    if (!force) {
+        force =
+            host.ShowMessage({"Are you sure you want to discard unsaved changes?",
+                              "Discard changes?", Buttons::OKCancel, Icon::Question}) == Answer::OK;
+    }
+    if (!force) return false;
+    list.Clear();
+    list.SetTag("");
+    toolbar.SetButtonEnabled(1, true);
+    for (int button = 2; button <= 5 && button <= toolbar.Count(); ++button)
+        toolbar.SetButtonEnabled(button, false);
+    return true;
 }
 
 bool MarkSaveRequired(Toolbar& toolbar, StatusBar& statusBar) {

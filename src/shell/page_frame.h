@@ -3,6 +3,7 @@
 // (1440 to the inch, 15 to a pixel on a common screen), the unit the pages were laid out in.
 
 #include "shell/controls.h"
+#include "shell/host.h"
 
 namespace qb::shell {
 
@@ -25,6 +26,11 @@ void SetupQuestionToolbar(Toolbar& toolbar);  // SAVE, CLOSE, NEW, EDIT, DELETE 
 bool MarkSaveRequired(Toolbar& toolbar, StatusBar& statusBar);
 // Buttons 2 and 3 disabled, panel 1 empty.
 bool ClearSaveRequired(Toolbar& toolbar, StatusBar& statusBar);
+
+// Empties a list opened for editing in place, asking "Discard changes?" first unless `force`:
+// the list and its tag are cleared, the toolbar's button 1 is on and buttons 2 to 5 are off.
+// False when the user keeps the list.
+bool ResetFileEditor(Host& host, Toolbar& toolbar, ListControl& list, bool force);
 
 // Panel 1 empty and 1500 wide; panel 2 takes the page width that remains, less 360.
 void SetupStatusBar(StatusBar& statusBar, int pageWidth);

@@ -2,6 +2,7 @@
 
 #include "shell/edit_dialog.h"
 #include "store/cp1252.h"
+#include "store/paths.h"
 
 namespace qb::shell {
 
@@ -169,8 +170,14 @@ std::optional<std::string> ScriptedHost::AskInput(const std::string& prompt,
 std::optional<std::string> ScriptedHost::AskFile(const std::string& title,
                                                  const std::string& filter,
                                                  const std::string& initialFolder) {
-    const std::string shown = "file: " + Cp1252ToUtf8(title) + ": " + Cp1252ToUtf8(filter) + ": " +
-                              Cp1252ToUtf8(initialFolder);
+    // A folder of this machine is shown as the system names it, so that a transcript reads the
+    // same wherever the hub stands.
+    std::string folder = Cp1252ToUtf8(initialFolder);
+    if (store::HasDrive(initialFolder)) {
+        if (const auto native = store::ToNativePath(initialFolder)) folder = native->string();
+    }
+    const std::string shown =
+        "file: " + Cp1252ToUtf8(title) + ": " + Cp1252ToUtf8(filter) + ": " + folder;
     if (files_.empty()) {
         out_ << shown << " -> ?\n";
         throw UnansweredPrompt("no answer queued for: " + shown);

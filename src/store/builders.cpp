@@ -36,6 +36,8 @@ std::string OldKey(const Field& field, int row) {
             return std::to_string(row);
         case FieldKind::NamedFlags:
             return field.rows.at(static_cast<size_t>(row));
+        case FieldKind::NamedValues:
+            return field.defaultRows.at(static_cast<size_t>(row)).key;
         case FieldKind::Flag:
         case FieldKind::Number:
         case FieldKind::String:
@@ -46,13 +48,16 @@ std::string OldKey(const Field& field, int row) {
 }
 
 std::string SubTableOf(const FileSchema& schema, const Field& field) {
-    return field.kind == FieldKind::ProfileChecks || field.kind == FieldKind::NamedFlags
+    return field.kind == FieldKind::ProfileChecks || field.kind == FieldKind::NamedFlags ||
+                   field.kind == FieldKind::NamedValues
                ? field.key
                : schema.table;
 }
 
-const std::string& BuilderDefault(const Field& field) {
-    return field.builderDefault ? *field.builderDefault : field.defaultValue;
+// What the builder writes where the file holds nothing: its own default where it has one, else
+// the row's or the field's.
+std::string BuilderDefault(const Field& field, int row) {
+    return field.builderDefault ? *field.builderDefault : RowDefault(field, row);
 }
 
 }  // namespace
@@ -70,7 +75,7 @@ std::string BuilderReadPath(const TableFiles& files, const FileSchema& schema) {
 
 void BuildFile(const FileSchema& schema, BuildRun& run) {
     const std::string path = BuilderReadPath(run.files, schema);
-    const auto byDefault = [](const Field& field, int) { return BuilderDefault(field); };
+    const auto byDefault = [](const Field& field, int row) { return BuilderDefault(field, row); };
     std::string text;
     switch (schema.kind) {
         case FileKind::Data:
@@ -90,10 +95,10 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
             text = Write(
                 schema, run,
                 [&](const Field& field, int row) {
-                    if (field.resetByRebuild) return BuilderDefault(field);
+                    if (field.resetByRebuild) return BuilderDefault(field, row);
                     std::string value = run.files.ReadTableValue(path, OldKey(field, row),
                                                                  SubTableOf(schema, field));
-                    return value.empty() ? BuilderDefault(field) : value;
+                    return value.empty() ? BuilderDefault(field, row) : value;
                 },
                 [&](const Field& field) {
                     return field.resetByRebuild ? std::vector<ListEntry>{}

@@ -72,7 +72,9 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
             case FieldKind::Number:
             case FieldKind::String: {
                 const bool quoted = line.quoted.value_or(field->kind == FieldKind::String);
-                const std::string value = valueOf(*field, 0);
+                const auto fixed = form.fixed.find(field->key);
+                const std::string value =
+                    fixed != form.fixed.end() ? fixed->second : valueOf(*field, 0);
                 if (quoted) {
                     text.Quoted(line.depth, key, value);
                 } else {
@@ -95,6 +97,14 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
                 }
                 text.Close(line.depth);
                 break;
+            case FieldKind::NamedValues:
+                text.Open(line.depth, key);
+                for (size_t row = 0; row < field->defaultRows.size(); ++row) {
+                    text.Quoted(line.rowDepth, field->defaultRows[row].key,
+                                valueOf(*field, static_cast<int>(row)));
+                }
+                text.Close(line.depth);
+                break;
             case FieldKind::Rows: {
                 // The rows of the file's own table stand at its depth, with nothing around them.
                 const bool own = field->key == schema.table;
@@ -112,6 +122,14 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
     }
     if (!parent.empty()) text.Close(1);
     return text.End();
+}
+
+std::string RowDefault(const Field& field, int row) {
+    if (field.kind == FieldKind::NamedValues && row >= 0 &&
+        static_cast<size_t>(row) < field.defaultRows.size()) {
+        return field.defaultRows[static_cast<size_t>(row)].value;
+    }
+    return field.defaultValue;
 }
 
 const Field* FindField(const FileSchema& schema, std::string_view key) {

@@ -21,6 +21,7 @@ enum class FieldKind {
     String,         // sKey = "text",
     ProfileChecks,  // tKey = { [-1] = 0, [0] = 1, ... }, one row per profile number
     NamedFlags,     // tKey = { bFirst = 0, bSecond = 1, ... }, one row per name of `rows`
+    NamedValues,    // tKey = { sFirst = "a", ... }, one row per entry of `defaultRows`, quoted
     Rows,           // a list the user keeps: the rows of a sub-table, or of the file's own table
 };
 
@@ -108,6 +109,8 @@ struct WriterForm {
     std::string table{};                      // the header's table, where this writer names another
     std::string headerTail{};                 // text behind the header's brace
     std::map<std::string, LineForm> lines{};  // by key, the lines laid out otherwise
+    // By key, the values this writer always writes, whatever the file or a control held.
+    std::map<std::string, std::string> fixed{};
 };
 
 struct FileSchema {
@@ -141,5 +144,8 @@ const Field* FindField(const FileSchema& schema, std::string_view key);
 // The default of a key, or empty for a key the file doesn't have: RestoreDefaults and the
 // builders both ask here.
 std::string DefaultOf(const FileSchema& schema, std::string_view key);
+
+// The default of one row of a field: a named value's own, or the field's.
+std::string RowDefault(const Field& field, int row);
 
 }  // namespace qb::store

@@ -14,7 +14,8 @@ void Append(std::vector<store::BuildStep>& to, const std::vector<store::BuildSte
 }  // namespace
 
 void RegisterUserActionPages(shell::PageRegistry& registry) {
-    std::vector<shell::PageEntry> pages{AsciiPage(), CalculatorPage(), JokeSettingsPage()};
+    std::vector<shell::PageEntry> pages{AsciiPage(), CalculatorPage(), JokeSettingsPage(),
+                                        QuestionFilesPageOf(JokeFiles())};
     Append(pages, AttackPages());
     Append(pages, InsultPages());
     Append(pages, TextListPages());

@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "families/quiz/question_files.h"
 #include "shell/page_registry.h"
 #include "store/builders.h"
 #include "store/schema.h"
@@ -18,6 +19,11 @@ void RegisterUserActionBuilders(store::BuilderRegistry& builders);
 std::vector<shell::PageEntry> TextListPages();
 const shell::PageDecl& JokeSettingsPage();
 std::vector<store::BuildStep> TextListBuilds();
+
+// The joke files, a member of the question file page (joke_files.cpp).
+const QuestionFiles& JokeFiles();
+// UserActions\Jokes\JokeFiles.tbl: the default joke file and the others; no builder makes it.
+const store::FileSchema& JokeFilesSchema();
 
 // The standard, medieval and modern insults (insults.cpp).
 std::vector<shell::PageEntry> InsultPages();

@@ -1,0 +1,34 @@
+#include "pages/games/games.h"
+
+namespace qb::pages {
+namespace {
+
+const std::vector<const QuizGame*>& QuizGames() {
+    static const std::vector<const QuizGame*> games = {&TriviaGame(),      &AnagramsGame(),
+                                                       &CodeBreakerGame(), &GuessTheNumberGame(),
+                                                       &HangmanGame(),     &NumbersGame()};
+    return games;
+}
+
+}  // namespace
+
+void RegisterGamePages(shell::PageRegistry& registry) {
+    std::vector<shell::PageEntry> pages;
+    for (const QuizGame* game : QuizGames())
+        pages.push_back(QuizPageOf(*game));
+    pages.push_back(QuestionFilesPageOf(TriviaQuestions()));
+    registry.Register(pages);
+}
+
+// The games' files, in the order a rebuild writes them in each folder.
+void RegisterGameBuilders(store::BuilderRegistry& builders) {
+    std::vector<store::BuildStep> steps;
+    for (const QuizGame* game : QuizGames()) {
+        for (store::BuildStep& step : QuizBuilds(*game))
+            steps.push_back(std::move(step));
+    }
+    steps.emplace_back(TriviaQuestionFilesSchema());
+    builders.Add(steps);
+}
+
+}  // namespace qb::pages
