@@ -87,6 +87,14 @@ ControlDecl Rows(std::string name, std::string key, int width, std::vector<ListC
             .columns = std::move(columns)};
 }
 
+ControlDecl ProfileRows(std::string name, std::string columnText, int width) {
+    return {.kind = ControlKind::List,
+            .name = std::move(name),
+            .width = width,
+            .columns = {{"column1", std::move(columnText), width - 350}},
+            .profileRows = true};
+}
+
 ControlDecl Marks(ControlDecl control) {
     control.marksOnly = true;
     return control;

@@ -10,11 +10,15 @@ const std::vector<store::Choice>& ActionChoices() {
     return codes;
 }
 
-std::vector<std::string> ActionNames() {
+std::vector<std::string> NamesOf(const std::vector<store::Choice>& choices) {
     std::vector<std::string> names;
-    for (const store::Choice& action : ActionChoices())
-        names.push_back(action.shown);
+    for (const store::Choice& choice : choices)
+        names.push_back(choice.shown);
     return names;
+}
+
+std::vector<std::string> ActionNames() {
+    return NamesOf(ActionChoices());
 }
 
 std::string ActionName(std::string_view code) {
@@ -31,10 +35,10 @@ std::string ActionCodeOf(std::string_view name) {
     return {};
 }
 
-store::Field ActionField() {
+store::Field ActionField(std::string defaultCode) {
     return {.kind = store::FieldKind::String,
             .key = "sAction",
-            .defaultValue = "T",
+            .defaultValue = std::move(defaultCode),
             .choices = ActionChoices()};
 }
 
