@@ -72,6 +72,14 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"Security~Registration",
          "the builder writes the unregistered users' rows, which the page drops, and "
          "iRegProfiles = 3 where the page writes iRegProfile"},
+        {"Security~SearchSpy", "the builder writes the immune profiles ahead of the enabled ones"},
+        {"Security~BadNickBlocker", "the builder writes the action ahead of the ban time"},
+        {"Security~CloneBlocker",
+         "the builder writes the action ahead of the ban time, and the exempt profiles ahead of "
+         "the enabled ones"},
+        {"Security~UserLog", "the builder writes its keys in an order of its own"},
+        {"Security~MainBlock", "the builder writes the block time after the profile lists"},
+        {"Security~AntiVirus", "the builder writes the action ahead of the ban time"},
     };
     return pages;
 }
