@@ -122,6 +122,17 @@ ControlDecl Edits(std::string file, ControlDecl toolbar) {
 
 }  // namespace decl
 
+void AddCheckLists(PageDecl& page, Layout& row, const std::vector<CheckListDecl>& lists,
+                   int firstLabel, int width) {
+    int label = firstLabel;
+    for (const CheckListDecl& list : lists) {
+        const std::string name = "lblLabel(" + std::to_string(label++) + ")";
+        page.controls.push_back(decl::Label(name, list.label));
+        page.controls.push_back(decl::ProfileChecks(list.list, list.key, list.column, width));
+        row.items.push_back(Column({Item(name), Item(list.list)}));
+    }
+}
+
 namespace {
 
 using store::FieldKind;

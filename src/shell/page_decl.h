@@ -238,6 +238,20 @@ struct PageDecl {
     bool toolbarOff = false;
 };
 
+// A profile check list under a label of its own.
+struct CheckListDecl {
+    std::string key;          // the sub-table
+    std::string list;         // the list control
+    std::string label;        // the label's caption
+    std::string column = "";  // the text of the list's one column
+};
+
+// Check lists side by side, each under its label: the labels ("lblLabel(n)", numbered from
+// `firstLabel`) and the lists join the page's controls in that order, and a column of each
+// label over its list joins `row`.
+void AddCheckLists(PageDecl& page, Layout& row, const std::vector<CheckListDecl>& lists,
+                   int firstLabel, int width);
+
 // Whether the declaration holds together: each bound key in its file, with a control that fits
 // the field, every name once, every editor's list and toolbar declared. Throws std::logic_error
 // naming the page and what is wrong.

@@ -86,6 +86,9 @@ struct Field {
     std::optional<std::string> builderDefault{};
 };
 
+// A number the user sets with an up-down, held to `range` by the up-down alone.
+Field UpDownNumber(std::string key, std::string defaultValue, Range range);
+
 // What a rebuild does to a file that exists already.
 enum class FileKind {
     Settings,  // rewritten in the current layout: each key keeps its value unless that is empty

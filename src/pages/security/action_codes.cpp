@@ -43,10 +43,7 @@ store::Field ActionField(std::string defaultCode) {
 }
 
 store::Field BanTimeField(std::string key) {
-    return {.kind = store::FieldKind::Number,
-            .key = std::move(key),
-            .defaultValue = "60",
-            .range = store::Range{1, 1440, 5}};
+    return store::UpDownNumber(std::move(key), "60", store::Range{1, 1440, 5});
 }
 
 }  // namespace qb::pages

@@ -9,15 +9,10 @@
 namespace qb::pages {
 
 struct Blocker {
-    struct CheckList {
-        const char* key;
-        const char* list;
-        const char* label;
-    };
     const char* name;  // "BadNickBlocker": the key's last part, the folder, the files' stem
-    std::vector<CheckList> checks;        // in the page's order
-    std::vector<std::string> buildOrder;  // the builder's order of the settings file
-    const char* listName;                 // "NickList": the list file is the stem and this
+    std::vector<shell::CheckListDecl> checks;  // in the page's order
+    std::vector<std::string> buildOrder;       // the builder's order of the settings file
+    const char* listName;                      // "NickList": the list file is the stem and this
     store::RowForm rowForm;
     std::optional<std::string> rowValue;  // every row written with this value, unquoted
     const char* list;                     // the list control, its label and its columns
@@ -46,7 +41,7 @@ store::FileSchema SettingsOf(const Blocker& blocker) {
                            .table = "t" + std::string(blocker.name) + "Settings",
                            .fields = {BanTimeField("iTempBanTime"), ActionField()},
                            .builderForm = {.order = blocker.buildOrder}};
-    for (const Blocker::CheckList& check : blocker.checks)
+    for (const shell::CheckListDecl& check : blocker.checks)
         file.fields.push_back({store::FieldKind::ProfileChecks, check.key, "0"});
     return file;
 }
@@ -108,14 +103,7 @@ shell::PageDecl PageOf(const Blocker& blocker) {
                        shell::Row({Item("lblLabel(1)"), Item("txtUpDown"), Item("updUpDown")}),
                        Item("lblLabel(2)"), Item("tlbListview"), Item(blocker.list)});
     page.layout->items.push_back(shell::Weighted(settings, 4));
-    int label = 3;
-    for (const Blocker::CheckList& check : blocker.checks) {
-        const std::string name = "lblLabel(" + std::to_string(label++) + ")";
-        page.controls.push_back(Label(name, check.label));
-        page.controls.push_back(ProfileChecks(check.list, check.key, "", kListWidth));
-        page.layout->items.push_back(
-            shell::Weighted(shell::Column({Item(name), Item(check.list)}), 3));
-    }
+    shell::AddCheckLists(page, *page.layout, blocker.checks, 3, kListWidth);
     return page;
 }
 

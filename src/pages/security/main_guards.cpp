@@ -29,10 +29,7 @@ store::FileSchema SettingsOf(const MainGuard& guard) {
                            .table = "t" + name + "Settings",
                            .fields = {}};
     if (guard.blockTime) {
-        file.fields.push_back({.kind = FieldKind::Number,
-                               .key = "iBlockTime",
-                               .defaultValue = "10",
-                               .range = store::Range{1, 1440, 5}});
+        file.fields.push_back(store::UpDownNumber("iBlockTime", "10", store::Range{1, 1440, 5}));
     }
     file.fields.push_back({FieldKind::ProfileChecks, "tEnabledProfiles", "0"});
     if (guard.exempts) file.fields.push_back({FieldKind::ProfileChecks, "tExemptProfiles", "0"});
@@ -62,17 +59,12 @@ shell::PageDecl PageOf(const MainGuard& guard) {
             Edits(guard.text, Toolbar("tlbListview", {shell::SetupEditToolbar})));
         body.items.push_back(Item("tlbListview"));
     }
-    page.controls.push_back(Label("lblLabel(0)", "Enabled Profiles"));
-    page.controls.push_back(
-        ProfileChecks("lvwEnabledProfiles", "tEnabledProfiles", "", kListWidth));
-    shell::Layout lists =
-        shell::Row({shell::Column({Item("lblLabel(0)"), Item("lvwEnabledProfiles")})});
-    if (guard.exempts) {
-        page.controls.push_back(Label("lblLabel(1)", "Exempt Profiles"));
-        page.controls.push_back(
-            ProfileChecks("lvwExemptProfiles", "tExemptProfiles", "", kListWidth));
-        lists.items.push_back(shell::Column({Item("lblLabel(1)"), Item("lvwExemptProfiles")}));
-    }
+    std::vector<shell::CheckListDecl> checks = {
+        {"tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"}};
+    if (guard.exempts)
+        checks.push_back({"tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"});
+    shell::Layout lists = shell::Row({});
+    shell::AddCheckLists(page, lists, checks, 0, kListWidth);
     body.items.push_back(lists);
     return page;
 }
