@@ -2,6 +2,7 @@
 // commands of P * P cells, shown by command and By profile), registration (four commands of
 // (P - 1) * (P - 1) rows, the list its only copy) and the profile rules (six rows a profile), each
 // opened, one cell flipped or one rule edited, saved and closed, over a tree the rebuild wrote.
+// Then every other security page opened and saved, and the lists the users fill at 10 000 rows.
 
 #include <benchmark/benchmark.h>
 
@@ -59,5 +60,72 @@ BENCHMARK_CAPTURE(RegistrationOpenAndSave, Indexed, true)->Apply(Sizes);
 BENCHMARK_CAPTURE(RegistrationOpenAndSave, Scanned, false)->Apply(ScannedSizes);
 BENCHMARK_CAPTURE(ProfileRulesOpenAndSave, Indexed, true)->Apply(Sizes);
 BENCHMARK_CAPTURE(ProfileRulesOpenAndSave, Scanned, false)->Apply(Sizes);
+
+// Opens a page, saves it as its SAVE button's click does, whether or not it holds a change, and
+// closes it. The user log's own log holds 10 000 rows, which its page never reads.
+void PageOpenAndSave(benchmark::State& state, const std::string& key) {
+    const int rows = static_cast<int>(state.range(0));
+    SecurityHub hub(rows);
+    std::string log = "tUserLog = {\r\n";
+    for (int row = 1; row <= 10000; ++row)
+        log += "\t[\"User" + std::to_string(row) + "\"] = \"2024-01-01 12:00\",\r\n";
+    hub.hub.WriteSetting("Security/UserLog/UserLog.tbl", log + "}\r\n");
+    for (auto _ : state) {
+        shell::Page* page = hub.container.Open(key);
+        static_cast<shell::Toolbar*>(page->Find("tlbFormToolbar"))->onButtonClick("SAVE");
+        hub.container.Close(*page);
+    }
+    state.counters["profiles"] = rows;
+}
+BENCHMARK_CAPTURE(PageOpenAndSave, SearchSpy, "Security~SearchSpy")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, BadNickBlocker, "Security~BadNickBlocker")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, CloneBlocker, "Security~CloneBlocker")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, UserLog, "Security~UserLog")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, MainBlock, "Security~MainBlock")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, MainLock, "Security~MainLock")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, MainCleaner, "Security~MainCleaner")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, Rules, "Security~Rules")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, Report, "Security~Report")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, AntiVirus, "Security~AntiVirus")->Apply(Sizes);
+BENCHMARK_CAPTURE(PageOpenAndSave, PtokaXSettings, "Security~PtokaXSettings")->Apply(Sizes);
+
+// A list the user fills, of 10 000 rows: the page opened, the first row deleted, the page saved
+// and closed. The file is written whole again before each round, untimed.
+void LongListDeleteOne(benchmark::State& state, const std::string& key, const char* toolbar,
+                       const std::string& file, const std::string& header,
+                       std::string (*row)(int)) {
+    SecurityHub hub(static_cast<int>(state.range(0)));
+    std::string text = header + " = {\r\n";
+    for (int number = 1; number <= 10000; ++number)
+        text += "\t" + row(number) + ",\r\n";
+    text += "}\r\n";
+    for (auto _ : state) {
+        state.PauseTiming();
+        hub.hub.WriteSetting(file, text);
+        state.ResumeTiming();
+        shell::Page* page = hub.container.Open(key);
+        hub.host.QueueAnswer(shell::Answer::OK);
+        test::PageHarness::Click(*page, toolbar, "DELETE");
+        test::PageHarness::Click(*page, "tlbFormToolbar", "SAVE");
+        hub.container.Close(*page);
+    }
+    state.counters["rows"] = 10000;
+}
+std::string BadNickRow(int number) {
+    return "[" + std::to_string(number) + "] = \"Nick" + std::to_string(number) + "\"";
+}
+std::string PhraseRow(int number) {
+    return "[\"phrase " + std::to_string(number) + "\"] = \"K\"";
+}
+void LongListSizes(benchmark::internal::Benchmark* b) {
+    b->Arg(4)->Arg(250)->Unit(benchmark::kMillisecond);
+}
+BENCHMARK_CAPTURE(LongListDeleteOne, BadNicks, "Security~BadNickBlocker", "tlbListview",
+                  "Security/BadNickBlocker/BadNickBlockerNickList.tbl", "tBadNickBlockerNickList",
+                  BadNickRow)
+    ->Apply(LongListSizes);
+BENCHMARK_CAPTURE(LongListDeleteOne, SearchSpyPhrases, "Security~SearchSpy", "tlbFiles",
+                  "Security/SearchSpy/SearchSpyFiles.tbl", "tSearchSpyFiles", PhraseRow)
+    ->Apply(LongListSizes);
 
 }  // namespace

@@ -353,9 +353,13 @@ PageView::Shown PageView::LabelledField(const shell::Layout& row) {
     for (const auto& item : row.items) {
         if (!Hidden(item)) shown.push_back(&item);
     }
-    if (shown.size() != 2 || shown[0]->type != shell::Layout::Type::Item ||
-        shown[1]->type != shell::Layout::Type::Item ||
-        shown[0]->control->Kind() != ControlKind::Label) {
+    const auto isLabel = [](const shell::Layout* item) {
+        return item->type == shell::Layout::Type::Item &&
+               item->control->Kind() == ControlKind::Label;
+    };
+    const bool unit = shown.size() == 3 && isLabel(shown[2]);
+    if ((shown.size() != 2 && !unit) || !isLabel(shown[0]) ||
+        shown[1]->type != shell::Layout::Type::Item) {
         return {};
     }
     const ControlKind kind = shown[1]->control->Kind();
@@ -367,7 +371,7 @@ PageView::Shown PageView::LabelledField(const shell::Layout& row) {
     Shown value = BuildItem(*shown[1]);
     label->setBuddy(value.field);
     label->setText(ToQtLiteral(shown[0]->control->Caption()));
-    return {label, value.field};
+    return {label, value.field, unit ? static_cast<QLabel*>(BuildItem(*shown[2]).field) : nullptr};
 }
 
 QLayout* PageView::BuildLayout(const shell::Layout& layout) {
@@ -397,7 +401,14 @@ QLayout* PageView::BuildLayout(const shell::Layout& layout) {
     grid->setColumnStretch(1, 1);
     int at = 0;
     const auto place = [grid, &at](const Shown& shown, int share) {
-        if (shown.label != nullptr) {
+        if (shown.unit != nullptr) {
+            grid->addWidget(shown.label, at, 0);
+            auto* field = new QHBoxLayout;
+            field->addWidget(shown.field);
+            field->addWidget(shown.unit);
+            field->addStretch(1);
+            grid->addLayout(field, at, 1);
+        } else if (shown.label != nullptr) {
             grid->addWidget(shown.label, at, 0);
             grid->addWidget(shown.field, at, 1, FieldAlignment(shown.field));
         } else {

@@ -29,13 +29,14 @@ class PageView : public QWidget {
     struct Shown {
         QLabel* label = nullptr;
         QWidget* field = nullptr;
+        QLabel* unit = nullptr;  // a label behind the field that names its unit ("Days")
     };
 
     void ShowTooltip(const shell::Tooltip& tip);
     Shown Build(const shell::Control& control);
     Shown BuildItem(const shell::Layout& item);
-    // A row of a label and one field, which a column lines up with its captioned fields; an
-    // empty Shown for any other row.
+    // A row of a label and one field, maybe with a label of its unit behind it, which a column
+    // lines up with its captioned fields; an empty Shown for any other row.
     Shown LabelledField(const shell::Layout& row);
     QLayout* BuildLayout(const shell::Layout& layout);
     bool Hidden(const shell::Layout& item) const;

@@ -41,6 +41,22 @@ int CheckValue(std::string_view value) {
     return store::IsNumericallyOne(value) ? 1 : 0;
 }
 
+// The choice a stored value stands for, or null for a value no choice has.
+const store::Choice* ChoiceOf(const std::vector<store::Choice>& choices, std::string_view stored) {
+    for (const store::Choice& choice : choices) {
+        if (choice.stored == stored) return &choice;
+    }
+    return nullptr;
+}
+
+// The stored form of a name shown; a name no choice has is stored as it stands.
+std::string StoredOf(const std::vector<store::Choice>& choices, const std::string& shown) {
+    for (const store::Choice& choice : choices) {
+        if (choice.shown == shown) return choice.stored;
+    }
+    return shown;
+}
+
 // ---- Scalars
 // -------------------------------------------------------------------------------------
 
@@ -160,20 +176,13 @@ class ComboBinding : public Binding {
         Show(value);
     }
     void Restore(const store::ProfileList&) override { Show(DefaultOfBound(*this)); }
-    std::string Value(int) const override {
-        for (const store::Choice& choice : Field().choices) {
-            if (choice.shown == combo_.Text()) return choice.stored;
-        }
-        return combo_.Text();
-    }
+    std::string Value(int) const override { return StoredOf(Field().choices, combo_.Text()); }
 
   private:
     void Show(const std::string& stored) {
-        for (const store::Choice& choice : Field().choices) {
-            if (choice.stored == stored) {
-                combo_.SetText(choice.shown);
-                return;
-            }
+        if (const store::Choice* choice = ChoiceOf(Field().choices, stored)) {
+            combo_.SetText(choice->shown);
+            return;
         }
         // A value the combo doesn't list: shown as it stands, or passed over.
         if (!quirks_.showsUnlisted) return;
@@ -357,6 +366,13 @@ class RowsBinding : public Binding {
         const bool keyed = Field().rowForm != store::RowForm::Bare;
         LoadTableRows(files, File().file, list_, keyed ? "=" : "", Key(), false, File().inAppFolder,
                       false);
+        // A value no choice has shows as it stands, and is saved so.
+        if (!keyed || Field().choices.empty()) return;
+        for (int row = 1; row <= list_.Count(); ++row) {
+            if (const store::Choice* choice = ChoiceOf(Field().choices, list_.Cell(row, 2))) {
+                list_.SetCell(row, 2, choice->shown);
+            }
+        }
     }
     void Restore(const store::ProfileList&) override {
         if (quirks_.restoreRows == Quirks::RestoreRows::Keep) return;
@@ -381,7 +397,8 @@ class RowsBinding : public Binding {
             if (Field().rowForm == store::RowForm::Bare) {
                 rows.push_back({{}, list_.Row(row).text});
             } else {
-                rows.push_back({list_.Row(row).text, list_.Cell(row, 2)});
+                rows.push_back(
+                    {list_.Row(row).text, StoredOf(Field().choices, list_.Cell(row, 2))});
             }
         }
         return rows;

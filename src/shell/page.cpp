@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "shell/page_frame.h"
+#include "shell/profile_checks.h"
 
 namespace qb::shell {
 namespace {
@@ -24,6 +25,7 @@ Page::Page(PageContext& context, const PageDecl& decl)
       noRestore_(decl.noRestore),
       discardClears_(decl.discardClears),
       saveMakesFolders_(decl.saveMakesFolders),
+      toolbarOff_(decl.toolbarOff),
       files_(decl.files) {
     tlbFormToolbar.onButtonClick = [this](const std::string& button) { FormToolbarClick(button); };
     MakeDeclared(decl);
@@ -71,6 +73,7 @@ void Page::MakeDeclared(const PageDecl& decl) {
         if (control.kind == ControlKind::List && !control.columns.empty()) {
             listColumns_.push_back({static_cast<ListControl*>(made), control.columns});
         }
+        if (control.profileRows) profileLists_.push_back(static_cast<ListControl*>(made));
         if (control.key.empty() && !control.marksOnly) continue;
         const store::FileSchema* file =
             control.key.empty() ? nullptr : (control.file ? control.file : files_.front());
@@ -108,7 +111,7 @@ void Page::MakeDeclared(const PageDecl& decl) {
         if (editor.confirmDelete) {
             PublishMenuMethod(editor.methods + "DeleteClick", [&made] { made.Delete(); });
         }
-        if (editor.edit || editor.customEdit) {
+        if (editor.edit || editor.customEdit || !editor.editsFile.empty()) {
             PublishMenuMethod(editor.methods + "EditClick", [&made] { made.Edit(); });
         }
     }
@@ -177,9 +180,15 @@ void Page::Load() {
     Setup();
     Reload();
     MarkClean();
+    if (toolbarOff_) {
+        for (int button = 1; button <= tlbFormToolbar.Count(); ++button)
+            tlbFormToolbar.SetButtonEnabled(button, false);
+    }
 }
 
 void Page::LoadSettings() {
+    for (ListControl* list : profileLists_)
+        ResetProfileChecks(*list, context_.profiles);
     for (const auto& binding : bindings_)
         binding->Load(context_.files, context_.profiles);
 }

@@ -161,6 +161,7 @@ class Page {
     bool noRestore_ = false;
     bool discardClears_ = false;
     bool saveMakesFolders_ = false;
+    bool toolbarOff_ = false;
     Layout body_;
     std::map<std::string, std::function<void()>> menuMethods_;
     std::set<std::string> hiddenEntries_;
@@ -169,6 +170,7 @@ class Page {
     std::vector<std::unique_ptr<RowEditor>> editors_;
     std::vector<std::pair<Toolbar*, std::vector<void (*)(Toolbar&)>>> toolbarSetups_;
     std::vector<std::pair<ListControl*, std::vector<ListColumn>>> listColumns_;
+    std::vector<ListControl*> profileLists_;
 };
 
 }  // namespace qb::shell

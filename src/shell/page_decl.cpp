@@ -106,6 +106,14 @@ ControlDecl Rows(std::string name, std::string key, int width, std::vector<ListC
             .columns = std::move(columns)};
 }
 
+ControlDecl ProfileRows(std::string name, std::string columnText, int width) {
+    return {.kind = ControlKind::List,
+            .name = std::move(name),
+            .width = width,
+            .columns = {{"column1", std::move(columnText), width - 350}},
+            .profileRows = true};
+}
+
 ControlDecl Marks(ControlDecl control) {
     control.marksOnly = true;
     return control;
@@ -132,6 +140,17 @@ ControlDecl Edits(std::string file, ControlDecl toolbar) {
 }
 
 }  // namespace decl
+
+void AddCheckLists(PageDecl& page, Layout& row, const std::vector<CheckListDecl>& lists,
+                   int firstLabel, int width) {
+    int label = firstLabel;
+    for (const CheckListDecl& list : lists) {
+        const std::string name = "lblLabel(" + std::to_string(label++) + ")";
+        page.controls.push_back(decl::Label(name, list.label));
+        page.controls.push_back(decl::ProfileChecks(list.list, list.key, list.column, width));
+        row.items.push_back(Column({Item(name), Item(list.list)}));
+    }
+}
 
 namespace {
 

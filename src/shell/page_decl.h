@@ -5,6 +5,7 @@
 // always had are properties of its binding. A page that needs behaviour of its own is a class over
 // the same declaration, and keeps only the code that is truly its own.
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -92,6 +93,8 @@ struct ControlDecl {
     std::vector<void (*)(shell::Toolbar&)> setups{};
     // A toolbar whose button opens the text editor on this file, to edit what it holds.
     std::string editsFile{};
+    // A list of the hub's profiles, a row each, filled at every load and bound to no file.
+    bool profileRows = false;
 };
 
 // The width of a list that fills a page of this width.
@@ -131,6 +134,9 @@ ControlDecl ProfileChecks(std::string name, std::string key, std::string columnT
 ControlDecl FlagRows(std::string name, std::string key, int width, std::vector<ListColumn> columns);
 // A list of the rows of the list field `key`, with these columns: the row's text, then cells.
 ControlDecl Rows(std::string name, std::string key, int width, std::vector<ListColumn> columns);
+// A list of the hub's profiles, a row each, under one column of this text as wide as the list
+// less 350: a page's rows that stand for the profiles, bound to no file.
+ControlDecl ProfileRows(std::string name, std::string columnText, int width);
 // A control bound to nothing whose change marks the page all the same.
 ControlDecl Marks(ControlDecl control);
 // The same control bound in another file of the page.
@@ -168,6 +174,8 @@ struct RowDialogDecl {
     // Fields (from 0) the dialog shows but whose answer the row doesn't take: an edit that names
     // its row in a field and never renames it.
     std::vector<int> shownOnly{};
+    // What the fields of a new row's dialog hold when it opens, such as a combo's first choice.
+    std::array<std::string, 4> values{};
 };
 
 // Which row NEW's siblings act on.
@@ -213,6 +221,12 @@ struct RowEditorDecl {
     bool customAdd = false;
     // The Delete key on the list is DELETE.
     bool deleteKey = false;
+    // A new row's text is its first field's answer as well, where that field stands in another
+    // column: the row shows what was typed beside the number the file gives it.
+    bool addNamesRow = false;
+    // EDIT opens the text editor on this file below the settings folder, "{profile}" standing for
+    // the profile number of the row (its place less 2), instead of a dialog.
+    std::string editsFile{};
 };
 
 // ---- The page
@@ -237,7 +251,24 @@ struct PageDecl {
     bool discardClears = false;
     // SAVE makes its files' folders where no builder has made them, rather than fail.
     bool saveMakesFolders = false;
+    // The frame's buttons are off from the load on: the page holds nothing of its own to save or
+    // discard, its files being edited and saved elsewhere.
+    bool toolbarOff = false;
 };
+
+// A profile check list under a label of its own.
+struct CheckListDecl {
+    std::string key;          // the sub-table
+    std::string list;         // the list control
+    std::string label;        // the label's caption
+    std::string column = "";  // the text of the list's one column
+};
+
+// Check lists side by side, each under its label: the labels ("lblLabel(n)", numbered from
+// `firstLabel`) and the lists join the page's controls in that order, and a column of each
+// label over its list joins `row`.
+void AddCheckLists(PageDecl& page, Layout& row, const std::vector<CheckListDecl>& lists,
+                   int firstLabel, int width);
 
 // Whether the declaration holds together: each bound key in its file, with a control that fits
 // the field, every name once, every editor's list and toolbar declared. Throws std::logic_error

@@ -9,11 +9,12 @@ namespace qb::shell {
 namespace {
 
 constexpr std::string_view kRowMark = "{row}";
+constexpr std::string_view kProfileMark = "{profile}";
 
-std::string Fill(std::string text, const std::string& row) {
-    for (size_t at = text.find(kRowMark); at != std::string::npos;
-         at = text.find(kRowMark, at + row.size())) {
-        text.replace(at, kRowMark.size(), row);
+std::string Fill(std::string text, const std::string& row, std::string_view mark = kRowMark) {
+    for (size_t at = text.find(mark); at != std::string::npos;
+         at = text.find(mark, at + row.size())) {
+        text.replace(at, mark.size(), row);
     }
     return text;
 }
@@ -54,6 +55,7 @@ DialogRequest RowEditor::Request(const RowDialogDecl& dialog, int row) const {
     request.bounds = dialog.bounds;
     request.required = dialog.required;
     request.addButton = dialog.addButton;
+    if (row == 0) request.values = dialog.values;
     if (row != 0) {
         for (size_t field = 0; field < decl_.columns.size() && field < request.values.size();
              ++field) {
@@ -118,7 +120,9 @@ void RowEditor::Add() {
         // Where no field gives the row's text, the text is the row's number.
         const bool textGiven =
             std::find(decl_.columns.begin(), decl_.columns.end(), 1) != decl_.columns.end();
-        list_.Append(NewRowKey(files_, row), textGiven ? std::string() : std::to_string(row));
+        std::string text = textGiven ? std::string() : std::to_string(row);
+        if (decl_.addNamesRow) text = result.fields[0];
+        list_.Append(NewRowKey(files_, row), std::move(text));
         Store(row, *decl_.add, result);
         markDirty_();
         if (onStored) onStored(row, true);
@@ -136,6 +140,10 @@ void RowEditor::Edit() {
     if (row == 0) return;
     if (decl_.customEdit) {
         if (onEdit) onEdit(row);
+        return;
+    }
+    if (!decl_.editsFile.empty()) {
+        host_.OpenTextEditor(Fill(decl_.editsFile, std::to_string(row - 2), kProfileMark), "E");
         return;
     }
     if (!decl_.edit) return;

@@ -110,6 +110,18 @@ void BuildFile(const FileSchema& schema, BuildRun& run) {
     run.files.WriteTextFile(schema.file, text, schema.inAppFolder);
 }
 
+void WriteTextWhenMissing(BuildRun& run, const std::string& file, std::string_view text) {
+    if (run.files.FileExists(run.files.SettingsFolder() + "\\" + file)) return;
+    run.files.WriteTextFile(file, text);
+}
+
+BuildStep TextWhenMissing(std::string file, std::string text) {
+    std::string folder = FolderOf(file);
+    return {std::move(folder), [file = std::move(file), text = std::move(text)](BuildRun& run) {
+                WriteTextWhenMissing(run, file, text);
+            }};
+}
+
 std::string FolderOf(std::string_view file) {
     const size_t slash = file.rfind('\\');
     return std::string(slash == std::string_view::npos ? std::string_view()

@@ -43,6 +43,10 @@ void BuildFile(const FileSchema& schema, BuildRun& run);
 
 using FileBuilder = std::function<void(BuildRun& run)>;
 
+// A text file the user keeps (a message, an ascii picture), below the settings folder: written
+// with `text` when missing, never touched once it exists.
+void WriteTextWhenMissing(BuildRun& run, const std::string& file, std::string_view text);
+
 // The folder of a file, "Security\CommandSpy" of "Security\CommandSpy\X.tbl".
 std::string FolderOf(std::string_view file);
 
@@ -54,6 +58,9 @@ struct BuildStep {
     std::string folder;
     FileBuilder builder;
 };
+
+// The step of a text file the user keeps, made with `text` when missing, in its own folder.
+BuildStep TextWhenMissing(std::string file, std::string text);
 
 class BuilderRegistry {
   public:

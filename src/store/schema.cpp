@@ -48,6 +48,13 @@ void ListRow(TableText& text, const Field& field, int depth, int number, const L
 
 }  // namespace
 
+Field UpDownNumber(std::string key, std::string defaultValue, Range range) {
+    return {.kind = FieldKind::Number,
+            .key = std::move(key),
+            .defaultValue = std::move(defaultValue),
+            .range = range};
+}
+
 std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldValue& valueOf,
                         Writer writer, const FieldFilter& keep, const FieldRows& rowsOf) {
     const WriterForm& form = writer == Writer::Builder ? schema.builderForm : schema.pageForm;

@@ -63,8 +63,10 @@ struct Field {
     std::vector<std::string> rows{};  // the row names of named flags, in file order
     // The builder writes the default whatever the file held: a rebuild clears the key.
     bool resetByRebuild = false;
-    std::optional<Range> range{};   // a number set through an up-down
-    std::vector<Choice> choices{};  // a value picked from a combo
+    std::optional<Range> range{};  // a number set through an up-down
+    // A value picked from a combo; on a list of named or numbered rows, each row's value, which
+    // the list shows by name.
+    std::vector<Choice> choices{};
     // The rows of a list: their form, and whether a value is written in quotes.
     RowForm rowForm = RowForm::Bare;
     bool quotedRows = true;
@@ -84,6 +86,9 @@ struct Field {
     // than RESTORE does; without it both take `defaultValue`.
     std::optional<std::string> builderDefault{};
 };
+
+// A number the user sets with an up-down, held to `range` by the up-down alone.
+Field UpDownNumber(std::string key, std::string defaultValue, Range range);
 
 // What a rebuild does to a file that exists already.
 enum class FileKind {

@@ -213,6 +213,177 @@ TEST_F(SecurityRebuild, AProfileAddedKeepsValuesByNumberAndResetsWhatEachRebuild
     EXPECT_EQ(hub.SettingsTree("Security"), tree);
 }
 
+// A profile sub-table as the writers lay it out, a row per number from -1.
+std::vector<std::string> Profiles(const std::string& table, const std::vector<int>& ticks) {
+    std::vector<std::string> lines{"\t" + table + " = {"};
+    for (size_t row = 0; row < ticks.size(); ++row) {
+        lines.push_back("\t\t[" + std::to_string(static_cast<int>(row) - 1) +
+                        "] = " + std::to_string(ticks[row]) + ",");
+    }
+    lines.push_back("\t},");
+    return lines;
+}
+// A table file of these parts, in this order.
+std::string Table(const std::string& table, const std::vector<std::vector<std::string>>& parts) {
+    std::vector<std::string> lines{table + " = {"};
+    for (const auto& part : parts)
+        lines.insert(lines.end(), part.begin(), part.end());
+    lines.push_back("}");
+    return Lines(lines);
+}
+
+// The builders' own orders: the action ahead of its time, the block time last, the immune
+// searches and the exempt clones ahead of the enabled ones, Disconnect for the anti-virus.
+TEST_F(SecurityRebuild, TheLastPagesFilesAreBuiltInTheBuildersOwnOrder) {
+    Rebuild(2);
+    const std::vector<int> none{0, 0};
+    const std::vector<std::string> ban{"\tsAction = \"T\",", "\tiTempBanTime = 60,"};
+    const std::vector<std::pair<std::string, std::string>> built = {
+        {"SearchSpy/SearchSpySettings.tbl",
+         Table("tSearchSpySettings",
+               {Profiles("tImmuneProfiles", none), Profiles("tAllowedProfiles", none)})},
+        {"BadNickBlocker/BadNickBlockerSettings.tbl",
+         Table("tBadNickBlockerSettings", {ban, Profiles("tExemptProfiles", none)})},
+        {"CloneBlocker/CloneBlockerSettings.tbl",
+         Table("tCloneBlockerSettings",
+               {ban, Profiles("tExemptProfiles", none), Profiles("tEnabledProfiles", none)})},
+        {"UserLog/UserLogSettings.tbl",
+         Table("tUserLogSettings",
+               {{"\tbEnableCleaner = 1,", "\tiCleanOlderThan = 28,", "\tiCleanerTime = 2355,",
+                 "\tiTopHubbers = 25,", "\tbEnableSaveTimer = 1,", "\tiSaveTimerInterval = 60,",
+                 "\tbEnableFileLog = 1,"},
+                Profiles("tEnabledProfiles", none),
+                Profiles("tEnabledLogProfiles", none),
+                Profiles("tEnabledCleanImmuneProfiles", none)})},
+        {"MainBlock/MainBlockSettings.tbl",
+         Table("tMainBlockSettings", {Profiles("tEnabledProfiles", none),
+                                      Profiles("tExemptProfiles", none),
+                                      {"\tiBlockTime = 10,"}})},
+        {"MainLock/MainLockSettings.tbl",
+         Table("tMainLockSettings",
+               {Profiles("tEnabledProfiles", none), Profiles("tExemptProfiles", none)})},
+        {"MainCleaner/MainCleanerSettings.tbl",
+         Table("tMainCleanerSettings", {Profiles("tEnabledProfiles", none)})},
+        {"MainCleaner/MainCleaner.asc", "Cleaned\r\n"},
+        {"Rules/Ascii/-1.asc", "\r\n"},
+        {"Rules/Ascii/0.asc", "\r\n"},
+        {"Report/ReportSettings.tbl",
+         Table("tReportSettings", {Profiles("tEnabledProfiles", none)})},
+        {"AntiVirus/AntiVirusSettings.tbl",
+         Table("tAntiVirusSettings", {{"\tsAction = \"D\",", "\tiTempBanTime = 60,"}})},
+        {"PtokaX/PtokaXSettings.tbl",
+         Table("tPtokaXSettings",
+               {Profiles("tEnabledGetProfiles", none), Profiles("tEnabledSetProfiles", none)})},
+        {"SearchSpy/SearchSpyFiles.tbl", Table("tSearchSpyFiles", {})},
+        {"BadNickBlocker/BadNickBlockerNickList.tbl", Table("tBadNickBlockerNickList", {})},
+        {"CloneBlocker/CloneBlockerExemptUsers.tbl", Table("tCloneBlockerExemptUsers", {})},
+        {"UserLog/UserLog.tbl", Table("tUserLog", {})},
+        {"UserLog/UserLogImmuneList.tbl", Table("tUserLogImmuneList", {})},
+    };
+    for (const auto& [file, text] : built)
+        EXPECT_EQ(Read(file), text) << file;
+    EXPECT_TRUE(std::filesystem::is_directory(hub.Settings() / "Security/UserLog/Logs"));
+}
+
+// Files as the pages saved them, the lists and texts as the users and the scripts keep them,
+// then a profile added at the hub: every tick stays with its number in the builder's order, an
+// emptied value takes its default, a value no control offers stays, the lists and texts are
+// left alone, and only the new profile gets a rules text.
+TEST_F(SecurityRebuild, TheLastPagesKeepEachValueByNumberAndLeaveTheListsAndTexts) {
+    struct File {
+        std::string path;
+        std::string before;
+        std::string after;
+    };
+    const std::string spyFiles = Table("tSearchSpyFiles", {{"\t[\"a=b\"] = \"T\","}});
+    const std::string nicks =
+        Table("tBadNickBlockerNickList", {{"\t[1] = \"Alpha\",", "\t[4] = \"Bravo\","}});
+    const std::string users = Table("tCloneBlockerExemptUsers", {{"\t[\"Car\"l\"] = 1,"}});
+    const std::string log = Table("tUserLog", {{"\t[\"Bob\"] = \"2024-01-01\","}});
+    const std::vector<File> written = {
+        {"SearchSpy/SearchSpySettings.tbl",
+         Table("tSearchSpySettings",
+               {Profiles("tAllowedProfiles", {1, 0}), Profiles("tImmuneProfiles", {0, 1})}),
+         Table("tSearchSpySettings",
+               {Profiles("tImmuneProfiles", {0, 1, 0}), Profiles("tAllowedProfiles", {1, 0, 0})})},
+        {"BadNickBlocker/BadNickBlockerSettings.tbl",
+         Table("tBadNickBlockerSettings",
+               {{"\tiTempBanTime = ,", "\tsAction = \"Q\","}, Profiles("tExemptProfiles", {0, 1})}),
+         Table("tBadNickBlockerSettings", {{"\tsAction = \"Q\",", "\tiTempBanTime = 60,"},
+                                           Profiles("tExemptProfiles", {0, 1, 0})})},
+        {"CloneBlocker/CloneBlockerSettings.tbl",
+         Table("tCloneBlockerSettings", {{"\tiTempBanTime = 1000,", "\tsAction = \"K\","},
+                                         Profiles("tEnabledProfiles", {1, 0}),
+                                         Profiles("tExemptProfiles", {0, 1})}),
+         Table("tCloneBlockerSettings", {{"\tsAction = \"K\",", "\tiTempBanTime = 1000,"},
+                                         Profiles("tExemptProfiles", {0, 1, 0}),
+                                         Profiles("tEnabledProfiles", {1, 0, 0})})},
+        {"UserLog/UserLogSettings.tbl",
+         Table("tUserLogSettings",
+               {{"\tbEnableCleaner = 0,", "\tbEnableSaveTimer = 1,", "\tbEnableFileLog = 0,",
+                 "\tiCleanOlderThan = 7,", "\tiCleanerTime = 2400,",
+                 "\tiSaveTimerInterval = 86400,", "\tiTopHubbers = ,"},
+                Profiles("tEnabledProfiles", {1, 0}),
+                Profiles("tEnabledLogProfiles", {0, 1}),
+                Profiles("tEnabledCleanImmuneProfiles", {1, 1})}),
+         Table("tUserLogSettings",
+               {{"\tbEnableCleaner = 0,", "\tiCleanOlderThan = 7,", "\tiCleanerTime = 2400,",
+                 "\tiTopHubbers = 25,", "\tbEnableSaveTimer = 1,", "\tiSaveTimerInterval = 86400,",
+                 "\tbEnableFileLog = 0,"},
+                Profiles("tEnabledProfiles", {1, 0, 0}),
+                Profiles("tEnabledLogProfiles", {0, 1, 0}),
+                Profiles("tEnabledCleanImmuneProfiles", {1, 1, 0})})},
+        {"MainBlock/MainBlockSettings.tbl",
+         Table("tMainBlockSettings", {{"\tiBlockTime = 1445,"},
+                                      Profiles("tEnabledProfiles", {0, 1}),
+                                      Profiles("tExemptProfiles", {1, 0})}),
+         Table("tMainBlockSettings", {Profiles("tEnabledProfiles", {0, 1, 0}),
+                                      Profiles("tExemptProfiles", {1, 0, 0}),
+                                      {"\tiBlockTime = 1445,"}})},
+        {"MainLock/MainLockSettings.tbl",
+         Table("tMainLockSettings",
+               {Profiles("tEnabledProfiles", {1, 1}), Profiles("tExemptProfiles", {0, 1})}),
+         Table("tMainLockSettings",
+               {Profiles("tEnabledProfiles", {1, 1, 0}), Profiles("tExemptProfiles", {0, 1, 0})})},
+        {"MainCleaner/MainCleanerSettings.tbl",
+         Table("tMainCleanerSettings", {Profiles("tEnabledProfiles", {0, 1})}),
+         Table("tMainCleanerSettings", {Profiles("tEnabledProfiles", {0, 1, 0})})},
+        {"Report/ReportSettings.tbl",
+         Table("tReportSettings", {Profiles("tEnabledProfiles", {1, 0})}),
+         Table("tReportSettings", {Profiles("tEnabledProfiles", {1, 0, 0})})},
+        {"AntiVirus/AntiVirusSettings.tbl",
+         Table("tAntiVirusSettings", {{"\tiTempBanTime = 5,", "\tsAction = \"\","}}),
+         Table("tAntiVirusSettings", {{"\tsAction = \"D\",", "\tiTempBanTime = 5,"}})},
+        {"PtokaX/PtokaXSettings.tbl",
+         Table("tPtokaXSettings",
+               {Profiles("tEnabledGetProfiles", {0, 1}), Profiles("tEnabledSetProfiles", {1, 0})}),
+         Table("tPtokaXSettings", {Profiles("tEnabledGetProfiles", {0, 1, 0}),
+                                   Profiles("tEnabledSetProfiles", {1, 0, 0})})},
+        {"SearchSpy/SearchSpyFiles.tbl", spyFiles, spyFiles},
+        {"BadNickBlocker/BadNickBlockerNickList.tbl", nicks, nicks},
+        {"CloneBlocker/CloneBlockerExemptUsers.tbl", users, users},
+        {"UserLog/UserLog.tbl", log, log},
+        {"UserLog/UserLogImmuneList.tbl", "", ""},
+        {"MainCleaner/MainCleaner.asc", "Main is clean\r\n", "Main is clean\r\n"},
+        {"Rules/Ascii/-1.asc", "No spam\r\n", "No spam\r\n"},
+        {"Rules/Ascii/0.asc", "", ""},
+        // A profile the hub no longer has keeps its text.
+        {"Rules/Ascii/7.asc", "Gone\r\n", "Gone\r\n"},
+    };
+    for (const File& file : written)
+        Write(file.path, file.before);
+
+    Rebuild(3);
+    for (const File& file : written)
+        EXPECT_EQ(Read(file.path), file.after) << file.path;
+    EXPECT_EQ(Read("Rules/Ascii/1.asc"), "\r\n");
+    EXPECT_FALSE(std::filesystem::exists(hub.Settings() / "Security/Rules/Ascii/2.asc"));
+
+    const auto tree = hub.SettingsTree("Security");
+    Rebuild(3);
+    EXPECT_EQ(hub.SettingsTree("Security"), tree);
+}
+
 // ---- The pages ------------------------------------------------------------------------------
 
 class SecurityPages : public ::testing::Test, protected test::PageHarness {
@@ -310,6 +481,44 @@ TEST_F(SecurityPages, TheAddressListsAddWithCodeOneAndEditWithCodeZero) {
     const shell::Page& settings = Open("Security~AntiAdvertise~Settings");
     EXPECT_EQ(settings.Find("chkCheckBox(0)")->Tip(),
               "Allows IPs beginning with 0 (such as 0.3.6.0)");
+}
+
+// The search spy's dialog lists five actions and starts on Kick; the blockers' dialogs name
+// their rows. A new bad nick stands beside itself, where the file's stand beside their numbers.
+TEST_F(SecurityPages, TheSearchSpyAndTheBlockersAskInTheirOwnWords) {
+    hub.WriteSetting("Security/SearchSpy/SearchSpyFiles.tbl",
+                     Crlf({"tSearchSpyFiles = {", "\t[\"mp3\"] = \"T\",", "}"}));
+    hub.WriteSetting("Security/CloneBlocker/CloneBlockerExemptUsers.tbl",
+                     Crlf({"tCloneBlockerExemptUsers = {", "\t[\"Carl\"] = 1,", "}"}));
+    shell::Page& spy = Open("Security~SearchSpy");
+    host.QueueDialog({"Cancel", {}});
+    ASSERT_TRUE(Click(spy, "tlbFiles", "NEW"));
+    host.QueueDialog({"Cancel", {}});
+    ASSERT_TRUE(Get<shell::ListControl>(spy, "lvwFiles").UserDoubleClick(1));
+    shell::Page& nicks = Open("Security~BadNickBlocker");
+    host.QueueDialog({"OK", {"Bart"}});
+    ASSERT_TRUE(Click(nicks, "tlbListview", "NEW"));
+    host.QueueDialog({"Cancel", {}});
+    ASSERT_TRUE(Click(nicks, "tlbListview", "EDIT"));
+    shell::Page& clones = Open("Security~CloneBlocker");
+    host.QueueDialog({"OK", {"Dora"}});
+    clones.CallMenuMethod("gMenuFirstAddClick");
+    host.QueueDialog({"Cancel", {}});
+    clones.CallMenuMethod("gMenuFirstEditClick");
+    const std::string actions = " {Disconnect;Warn;Notify Ops;Kick;Ban;}\n";
+    EXPECT_EQ(Dialogs(), "Add File [A1] | File= | Action=Kick" + actions +
+                             "Edit File [E0] | mp3 File=mp3 | Action=T" + actions +
+                             "Add Bad Nick [A1] | Bad Nick=\n"
+                             "Edit Bad Nick [E0] | Bad Nick=Bart\n"
+                             "Add Exempt User [A1] | Exempt User=\n"
+                             "Edit Exempt User [E0] | Exempt User=Carl\n");
+    const auto& badNicks = Get<shell::ListControl>(nicks, "lvwBadNickList");
+    EXPECT_EQ(badNicks.Row(1).text, "Bart");
+    EXPECT_EQ(badNicks.Cell(1, 2), "Bart");
+    const auto& exempt = Get<shell::ListControl>(clones, "lvwExemptUsers");
+    ASSERT_EQ(exempt.Count(), 2);
+    EXPECT_EQ(exempt.Row(2).text, "Dora");
+    EXPECT_EQ(exempt.Cell(2, 2), "");
 }
 
 // A number the hub has no profile for shows as it stands and goes back as it was; a pair file

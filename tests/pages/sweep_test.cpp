@@ -83,6 +83,14 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"Games~Trivia~Questions",
          "the builder writes the default's key in brackets with no tab; the page the plain key"},
         {"UserActions~Jokes~Files", "no builder makes JokeFiles.tbl: the page's save makes it"},
+        {"Security~SearchSpy", "the builder writes the immune profiles ahead of the enabled ones"},
+        {"Security~BadNickBlocker", "the builder writes the action ahead of the ban time"},
+        {"Security~CloneBlocker",
+         "the builder writes the action ahead of the ban time, and the exempt profiles ahead of "
+         "the enabled ones"},
+        {"Security~UserLog", "the builder writes its keys in an order of its own"},
+        {"Security~MainBlock", "the builder writes the block time after the profile lists"},
+        {"Security~AntiVirus", "the builder writes the action ahead of the ban time"},
     };
     return pages;
 }

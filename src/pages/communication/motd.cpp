@@ -77,12 +77,9 @@ void BuildMotdSettings(store::BuildRun& run) {
     }
     files.WriteTextFile(kSettings, text);
     // Each row's text exists, if only empty.
-    for (int profile = -1; profile <= run.lastProfile; ++profile) {
-        const std::string file = MessageFile(std::to_string(profile));
-        if (!files.FileExists(files.SettingsFolder() + "\\" + file)) files.WriteTextFile(file, "");
-    }
-    const std::string all = MessageFile("all");
-    if (!files.FileExists(files.SettingsFolder() + "\\" + all)) files.WriteTextFile(all, "");
+    for (int profile = -1; profile <= run.lastProfile; ++profile)
+        store::WriteTextWhenMissing(run, MessageFile(std::to_string(profile)), "");
+    store::WriteTextWhenMissing(run, MessageFile("all"), "");
 }
 
 namespace {

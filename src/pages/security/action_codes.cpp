@@ -10,11 +10,15 @@ const std::vector<store::Choice>& ActionChoices() {
     return codes;
 }
 
-std::vector<std::string> ActionNames() {
+std::vector<std::string> NamesOf(const std::vector<store::Choice>& choices) {
     std::vector<std::string> names;
-    for (const store::Choice& action : ActionChoices())
-        names.push_back(action.shown);
+    for (const store::Choice& choice : choices)
+        names.push_back(choice.shown);
     return names;
+}
+
+std::vector<std::string> ActionNames() {
+    return NamesOf(ActionChoices());
 }
 
 std::string ActionName(std::string_view code) {
@@ -31,18 +35,15 @@ std::string ActionCodeOf(std::string_view name) {
     return {};
 }
 
-store::Field ActionField() {
+store::Field ActionField(std::string defaultCode) {
     return {.kind = store::FieldKind::String,
             .key = "sAction",
-            .defaultValue = "T",
+            .defaultValue = std::move(defaultCode),
             .choices = ActionChoices()};
 }
 
 store::Field BanTimeField(std::string key) {
-    return {.kind = store::FieldKind::Number,
-            .key = std::move(key),
-            .defaultValue = "60",
-            .range = store::Range{1, 1440, 5}};
+    return store::UpDownNumber(std::move(key), "60", store::Range{1, 1440, 5});
 }
 
 }  // namespace qb::pages

@@ -71,8 +71,7 @@ const store::FileSchema& KickSettingsSchema() {
 // The announcement's text, with the scripts' marks for the kicked user and the reason; made only
 // when missing, and edited in the text editor.
 void BuildKickAscii(store::BuildRun& run) {
-    if (run.files.FileExists(run.files.SettingsFolder() + "\\" + kAsciiFile)) return;
-    run.files.WriteTextFile(kAsciiFile, "!victim!: !reason!");
+    store::WriteTextWhenMissing(run, kAsciiFile, "!victim!: !reason!");
 }
 
 // The scripts' logs of kicks and kickers, made empty when missing.

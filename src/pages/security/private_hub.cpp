@@ -7,22 +7,18 @@ namespace qb::pages {
 
 namespace {
 
-struct Restriction {
-    const char* key;
-    const char* list;
-    const char* label;
-    const char* column;
-};
-
 // The page's order. The labels say Disabled and the columns Enabled: a ticked row is a profile
 // refused.
-constexpr Restriction kRestrictions[] = {
-    {"tDownloads", "lvwDisabledDownloads", "Disabled Downloads", "Enabled Downloads"},
-    {"tMain", "lvwDisabledMain", "Disabled Main", "Enabled Main"},
-    {"tPMs", "lvwDisabledPMs", "Disabled PM", "Enabled PMs"},
-    {"tProfiles", "lvwDisabledProfiles", "Disabled Profiles", "Enabled Profiles"},
-    {"tSearches", "lvwDisabledSearches", "Disabled Searches", "Enabled Searches"},
-};
+const std::vector<shell::CheckListDecl>& Restrictions() {
+    static const std::vector<shell::CheckListDecl> lists = {
+        {"tDownloads", "lvwDisabledDownloads", "Disabled Downloads", "Enabled Downloads"},
+        {"tMain", "lvwDisabledMain", "Disabled Main", "Enabled Main"},
+        {"tPMs", "lvwDisabledPMs", "Disabled PM", "Enabled PMs"},
+        {"tProfiles", "lvwDisabledProfiles", "Disabled Profiles", "Enabled Profiles"},
+        {"tSearches", "lvwDisabledSearches", "Disabled Searches", "Enabled Searches"},
+    };
+    return lists;
+}
 
 }  // namespace
 
@@ -51,7 +47,7 @@ const store::FileSchema& PrivateHubSettingsSchema() {
                         .resetByRebuild = true,
                         .parent = "tRestrictPMs"}},
         };
-        for (const Restriction& restriction : kRestrictions) {
+        for (const shell::CheckListDecl& restriction : Restrictions()) {
             file.fields.push_back({.kind = FieldKind::ProfileChecks,
                                    .key = restriction.key,
                                    .defaultValue = "0",
@@ -86,14 +82,7 @@ const shell::PageDecl& PrivateHubPage() {
             .discardClears = true,
         };
         shell::Layout lists = shell::Row({});
-        int label = 1;
-        for (const Restriction& restriction : kRestrictions) {
-            const std::string name = "lblLabel(" + std::to_string(label++) + ")";
-            decl.controls.push_back(Label(name, restriction.label));
-            decl.controls.push_back(
-                ProfileChecks(restriction.list, restriction.key, restriction.column, kListWidth));
-            lists.items.push_back(shell::Column({Item(name), Item(restriction.list)}));
-        }
+        shell::AddCheckLists(decl, lists, Restrictions(), 1, kListWidth);
         decl.layout =
             shell::Column({shell::Row({Item("txtTextBox"), Item("chkCheckBox"), Item("lblLabel(0)"),
                                        Item("txtUpDown"), Item("updUpDown"), shell::Stretch()}),

@@ -15,6 +15,17 @@ void RegisterSecurityPages(shell::PageRegistry& registry) {
         ProfileRuleSettingsPage(),
         ProfileRuleRulesPage(),
         PairMatrixPageOf(RegistrationMatrix()),
+        SearchSpyPage(),
+        BlockerPage(BadNickBlocker()),
+        BlockerPage(CloneBlocker()),
+        UserLogPage(),
+        MainGuardPage(MainBlock()),
+        MainGuardPage(MainLock()),
+        MainGuardPage(MainCleaner()),
+        RulesPage(),
+        ReportPage(),
+        AntiVirusPage(),
+        PtokaXSettingsPage(),
     });
 }
 
@@ -42,6 +53,23 @@ void RegisterSecurityBuilders(store::BuilderRegistry& builders) {
         ProfileRulesRedirectCounterSchema(),
         PairMatrixBuild(RegistrationMatrix()),
         RegistrationSettingsSchema(),
+        SearchSpySettingsSchema(),
+        SearchSpyFilesSchema(),
+        BlockerSettingsSchema(CloneBlocker()),
+        BlockerListSchema(CloneBlocker()),
+        BlockerSettingsSchema(BadNickBlocker()),
+        BlockerListSchema(BadNickBlocker()),
+        UserLogSettingsSchema(),
+        UserLogSchema(),
+        UserLogImmuneListSchema(),
+        MainGuardSettingsSchema(MainBlock()),
+        MainGuardSettingsSchema(MainLock()),
+        MainGuardSettingsSchema(MainCleaner()),
+        store::TextWhenMissing(kMainCleanerText, "Cleaned"),
+        {"Security\\Rules\\Ascii", BuildRuleTexts},
+        ReportSettingsSchema(),
+        AntiVirusSettingsSchema(),
+        PtokaXSettingsSchema(),
     });
 }
 

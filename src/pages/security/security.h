@@ -73,4 +73,61 @@ const store::FileSchema& CommandSpySettingsSchema();
 // Security\CommandSpy\CommandSpyUsers.tbl: the script's own list, made empty when missing.
 const store::FileSchema& CommandSpyUsersSchema();
 
+// The search spy (search_spy.cpp).
+const shell::PageDecl& SearchSpyPage();
+// Security\SearchSpy\SearchSpySettings.tbl: the profiles the search spy watches and spares.
+const store::FileSchema& SearchSpySettingsSchema();
+// Security\SearchSpy\SearchSpyFiles.tbl: the forbidden phrases and their actions, a list the user
+// fills, made empty when missing.
+const store::FileSchema& SearchSpyFilesSchema();
+
+// The bad nick and clone blockers, one page over a row of what differs (blockers.cpp).
+struct Blocker;
+const Blocker& BadNickBlocker();
+const Blocker& CloneBlocker();
+const shell::PageDecl& BlockerPage(const Blocker& blocker);
+// Security\<Blocker>\<Blocker>Settings.tbl: the action, its ban time and the profile lists.
+const store::FileSchema& BlockerSettingsSchema(const Blocker& blocker);
+// The names the user keeps: BadNickBlockerNickList.tbl, CloneBlockerExemptUsers.tbl, made empty
+// when missing.
+const store::FileSchema& BlockerListSchema(const Blocker& blocker);
+
+// The user log (user_log.cpp).
+const shell::PageDecl& UserLogPage();
+// Security\UserLog\UserLogSettings.tbl: the cleaner, the save timer, the top hubbers and three
+// profile lists.
+const store::FileSchema& UserLogSettingsSchema();
+// Security\UserLog\UserLog.tbl and UserLogImmuneList.tbl: the script's own, made when missing.
+const store::FileSchema& UserLogSchema();
+const store::FileSchema& UserLogImmuneListSchema();
+
+// The main block, lock and cleaner, one page over a row of what differs (main_guards.cpp).
+struct MainGuard;
+const MainGuard& MainBlock();
+const MainGuard& MainLock();
+const MainGuard& MainCleaner();
+const shell::PageDecl& MainGuardPage(const MainGuard& guard);
+// Security\<Guard>\<Guard>Settings.tbl: the profiles, and the block's time.
+const store::FileSchema& MainGuardSettingsSchema(const MainGuard& guard);
+// The text the cleaner shows, "Cleaned" when the rebuild makes it.
+inline constexpr const char* kMainCleanerText = "Security\\MainCleaner\\MainCleaner.asc";
+
+// The rules (rules.cpp): a text per profile, edited in the text editor.
+const shell::PageDecl& RulesPage();
+// Security\Rules\Ascii\<number>.asc: each profile's text, made empty when missing.
+void BuildRuleTexts(store::BuildRun& run);
+
+// The report (report.cpp).
+const shell::PageDecl& ReportPage();
+const store::FileSchema& ReportSettingsSchema();
+
+// The anti-virus (anti_virus.cpp).
+const shell::PageDecl& AntiVirusPage();
+// Security\AntiVirus\AntiVirusSettings.tbl: the action, Disconnect by default, and its ban time.
+const store::FileSchema& AntiVirusSettingsSchema();
+
+// The profiles that may get and set the hub's settings (ptokax_settings.cpp).
+const shell::PageDecl& PtokaXSettingsPage();
+const store::FileSchema& PtokaXSettingsSchema();
+
 }  // namespace qb::pages
