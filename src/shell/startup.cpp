@@ -28,7 +28,8 @@ const store::FileSchema& VersionSchema() {
     static const store::FileSchema schema{
         "General\\Globals\\Version.tbl",
         "tVersion",
-        {{store::FieldKind::String, "sVersion", store::VersionText()}},
+        // No default: the stamp is always the version the run behaves as.
+        {{store::FieldKind::String, "sVersion", ""}},
     };
     return schema;
 }
@@ -48,7 +49,8 @@ CheckResult CheckSettingsVersion(SettingsChange change, Container& container,
                                  const store::BuilderRegistry& builders) {
     store::TableFiles& files = container.Files();
     if (change == SettingsChange::Version &&
-        files.ReadTableValue(VersionSchema().file, "sVersion", "") == store::VersionText()) {
+        files.ReadTableValue(VersionSchema().file, "sVersion", "") ==
+            store::VersionText(container.Version())) {
         return CheckResult::NotRebuilt;
     }
     if (container.GetHost().ShowMessage(ChangePrompt(change)) != Answer::OK) {
@@ -56,6 +58,7 @@ CheckResult CheckSettingsVersion(SettingsChange change, Container& container,
     }
     store::BuildRun run{.files = files,
                         .lastProfile = container.Profiles().LastNumber(),
+                        .version = container.Version(),
                         .profileNames = container.Profiles().Names()};
     RebuildSettings(run, builders);
     return CheckResult::Rebuilt;
@@ -64,7 +67,8 @@ CheckResult CheckSettingsVersion(SettingsChange change, Container& container,
 StartResult RunStartChecks(Container& container, const store::BuilderRegistry& builders) {
     container.LoadProfiles();
     // The shared folders come first and stay even when the user then cancels the rebuild.
-    store::BuildRun shared{container.Files(), container.Profiles().LastNumber()};
+    store::BuildRun shared{container.Files(), container.Profiles().LastNumber(),
+                           container.Version()};
     builders.BuildArea(store::Area::SharedFolders, shared);
 
     CheckResult result = CheckSettingsVersion(SettingsChange::Version, container, builders);
