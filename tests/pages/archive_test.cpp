@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 
 #include "store/fatal_error.h"
@@ -147,6 +148,50 @@ TEST_F(WeekPage, AFileOfFiveHundredAndOneRowsShowsFiveHundredAndSavesThemRenumbe
     // The page's change time is the one its load showed: the day it doesn't know is gone.
     saved.replace(saved.find("Sunday 17:59"), 12, " 17:59");
     EXPECT_EQ(hub.ReadSetting("TheVellum/Hyperlink/HyperlinkItemOfTheWeek.tbl"), saved);
+}
+
+// What each dialog of the week page is handed, which a drive's output doesn't show: the edits
+// open on the row's values and the change time's, both titled " Announcement" with no Add; the
+// add dialog lets Add through. Every field is needed.
+TEST_F(WeekPage, EachDialogOpensOnItsValues) {
+    shell::Page* page = container.Open("Hyperlink~LinkOfTheWeek");
+    host.QueueDialog({"Cancel", {}});
+    host.QueueDialog({"Cancel", {}});
+    host.QueueDialog({"Cancel", {}});
+    ASSERT_TRUE(Click(*page, "tlbWeek", "EDIT"));
+    ASSERT_TRUE(Click(*page, "tlbChangeTime", "EDIT"));
+    ASSERT_TRUE(Click(*page, "tlbWeek", "NEW"));
+    const struct {
+        shell::DialogKind kind;
+        std::string caption;
+        std::array<std::string, 4> values;
+        size_t combos;
+        int required;
+    } expected[] = {
+        {shell::DialogKind::FourCombos,
+         " Announcement",
+         {"Sunday", "18", "00", "Private Message"},
+         4,
+         5},
+        {shell::DialogKind::ThreeCombos, " Announcement", {"Sunday", "17", "59", ""}, 3, 5},
+        {shell::DialogKind::FourCombos, "Add Announcement", {}, 4, 6},
+    };
+    ASSERT_EQ(host.requests.size(), std::size(expected));
+    for (size_t i = 0; i < std::size(expected); ++i) {
+        SCOPED_TRACE(i);
+        const shell::DialogRequest& request = host.requests[i];
+        EXPECT_EQ(request.kind, expected[i].kind);
+        EXPECT_EQ(request.caption, expected[i].caption);
+        EXPECT_EQ(request.values, expected[i].values);
+        EXPECT_EQ(request.required, expected[i].required);
+        ASSERT_EQ(request.comboItems.size(), expected[i].combos);
+        EXPECT_EQ(request.comboItems[0].front(), "Sunday");
+        EXPECT_EQ(request.comboItems[1].size(), 24u);
+        EXPECT_EQ(request.comboItems[2].back(), "59");
+    }
+    EXPECT_EQ(host.requests[0].comboItems[3],
+              (std::vector<std::string>{"Main Chat", "Private Message"}));
+    EXPECT_FALSE(page->SaveRequired());
 }
 
 // Before version 6 no week file is made: the rows' reader ends the program, naming the file.
