@@ -83,6 +83,12 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"Games~Trivia~Questions",
          "the builder writes the default's key in brackets with no tab; the page the plain key"},
         {"UserActions~Jokes~Files", "no builder makes JokeFiles.tbl: the page's save makes it"},
+        {"Games~ThreeCardMonty",
+         "the builder spells the cards with \"Of\", and writes a new comment file's one row "
+         "without its tab and comma"},
+        {"Games~RussianRoulette",
+         "the builder writes the chambers bare, and a new comment file's one row without its tab "
+         "and comma"},
     };
     return pages;
 }
