@@ -127,6 +127,12 @@ std::map<std::string, std::string> SaveDiffers(store::ProgramVersion version) {
         {"Security~UserLog", "the builder writes its keys in an order of its own"},
         {"Security~MainBlock", "the builder writes the block time after the profile lists"},
         {"Security~AntiVirus", "the builder writes the action ahead of the ban time"},
+        {"Games~ThreeCardMonty",
+         "the builder spells the cards with \"Of\", and writes a new comment file's one row "
+         "without its tab and comma"},
+        {"Games~RussianRoulette",
+         "the builder writes the chambers bare, and a new comment file's one row without its tab "
+         "and comma"},
     };
     if (version.major >= 6) {
         Each(pages, ArchivePages("LinkOfTheWeek"),
