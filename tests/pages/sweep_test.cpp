@@ -11,11 +11,15 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <map>
 #include <set>
 #include <sstream>
 
 #include "cli/lua_tables.h"
+#include "hublink/sessions.h"
+#include "pages/pages.h"
+#include "shell/catalogue.h"
 #include "shell/startup.h"
 #include "store/fatal_error.h"
 #include "support/page_harness.h"
@@ -571,6 +575,24 @@ TEST_P(Sweep, APageSavedOverItsMissingFilesWritesThemWhole) {
     }
     EXPECT_GT(saved, 40u);
     EXPECT_TRUE(host.Unused().empty());
+}
+
+// Every function the navigation can open has its page: the archive's, the e-mail page and,
+// given hub sessions, the portal among them. The one page beyond them is the jokes page that
+// keeps the list and its settings together, which no node reaches.
+TEST(Registration, EveryFunctionKeyHasItsPage) {
+    shell::PageRegistry registry;
+    pages::PageServices services;
+    services.hubLink = [](const hublink::PortalValues& values) {
+        return std::make_unique<hublink::RecordingSessions>(values, std::cout);
+    };
+    pages::RegisterAllPages(registry, services);
+    const auto& functions = shell::FunctionKeys();
+    std::set<std::string> unreached(registry.Keys().begin(), registry.Keys().end());
+    for (const std::string& key : functions) {
+        EXPECT_EQ(unreached.erase(key), 1u) << key << " has no page";
+    }
+    EXPECT_EQ(unreached, std::set<std::string>{"UserActions~Jokes"});
 }
 
 // A page's declaration is checked when it is registered, at start: a control bound to a key its
