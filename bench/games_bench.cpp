@@ -1,6 +1,8 @@
-// The trivia question editor over a large question file: the page opened, the file loaded after
-// its warning, one question found by its text and edited, the file saved. Opening the page reads
-// no question file; the cost is the file's, and should grow with its rows and no faster.
+// The editors of the games' large files: the trivia question editor, the anagram word list and
+// the Numbers game's question list, each over a large file: the page opened, the file loaded
+// (after its warning, on the trivia page), one row found by its text and edited, the file saved.
+// Opening a page reads no such file; the cost is the file's, and should grow with its rows and no
+// faster.
 
 #include <benchmark/benchmark.h>
 
@@ -12,65 +14,128 @@ namespace {
 
 using namespace qb;
 
-std::string QuestionFile(int questions) {
-    std::string text;
-    for (int n = 1; n <= questions; ++n) {
-        text += "Category" + std::to_string(n % 40) + ": What is question number " +
-                std::to_string(n) + "?*Answer" + std::to_string(n) + "\r\n";
-    }
-    return text;
-}
+// One list of a game's page over a file of `rows` lines: the list opened, a row found by its
+// text and edited in its dialog, the file saved, and the page closed.
+struct ListEdit {
+    const char* key;
+    const char* file;  // below the settings folder
+    std::string (*line)(int n);
+    const char* list;
+    // The button that opens the list, and whether it warns first.
+    const char* openToolbar;
+    const char* openButton;
+    bool warns;
+    // The toolbar of the list's EDIT and SAVE, and whether its save marks the page, so that
+    // closing it asks.
+    const char* rowToolbar;
+    bool saveMarks;
+    shell::DialogAnswer edit;
+    std::string saved;  // the edited row's line in the saved file
+};
 
-void TriviaQuestions(benchmark::State& state) {
-    const int questions = static_cast<int>(state.range(0));
+void EditGameList(benchmark::State& state, const ListEdit& edit) {
+    const int rows = static_cast<int>(state.range(0));
     test::PageHarness harness;
-    const std::string file = "Games/Trivia/QuestionFiles/TriviaQuestions.lst";
-    const std::string text = QuestionFile(questions);
-    harness.hub.WriteSetting(file, text);
+    std::string text;
+    for (int n = 1; n <= rows; ++n)
+        text += edit.line(n) + "\r\n";
+    harness.hub.WriteSetting(edit.file, text);
     harness.hub.WriteSetting("Games/Trivia/TriviaQuestionFiles.tbl",
                              "tTriviaQuestionFiles = {\r\n\tsDefaultQuestionFile = "
                              "\"TriviaQuestions\",\r\n}\r\n");
     harness.container.LoadProfiles();
-    // The question in the middle, as the user types its start to find it.
-    const std::string wanted = "Category" + std::to_string(questions / 2 % 40) +
-                               ": What is question number " + std::to_string(questions / 2) + "?";
+    // The row in the middle, as the user types its start to find it.
+    const std::string line = edit.line(rows / 2);
+    const std::string wanted = line.substr(0, line.find('*'));
     for (auto _ : state) {
-        shell::Page* page = harness.container.Open("Games~Trivia~Questions");
-        auto& rows = static_cast<shell::ListControl&>(*page->Find("lvwQuestions"));
-        harness.host.QueueAnswer(shell::Answer::OK);
-        test::PageHarness::Click(*page, "tlbQuestionFiles", "EDIT");
+        shell::Page* page = harness.container.Open(edit.key);
+        auto& list = static_cast<shell::ListControl&>(*page->Find(edit.list));
+        if (edit.warns) harness.host.QueueAnswer(shell::Answer::OK);
+        test::PageHarness::Click(*page, edit.openToolbar, edit.openButton);
         int found = 0;
-        for (int row = 1; row <= rows.Count() && found == 0; ++row) {
-            if (rows.Row(row).text.starts_with(wanted)) found = row;
+        for (int row = 1; row <= list.Count() && found == 0; ++row) {
+            if (list.Row(row).text == wanted) found = row;
         }
         if (found == 0) {
-            state.SkipWithError("the question wasn't found");
+            state.SkipWithError("the row wasn't found");
             break;
         }
-        rows.UserSelect(found);
-        harness.host.QueueDialog({"OK", {"Edited", "What is question number one?", "one"}});
-        test::PageHarness::Click(*page, "tlbQuestions", "EDIT");
-        test::PageHarness::Click(*page, "tlbQuestions", "SAVE");
-        // The editor's save marks the page: closing it asks first.
-        harness.host.QueueAnswer(shell::Answer::OK);
+        list.UserSelect(found);
+        harness.host.QueueDialog(edit.edit);
+        test::PageHarness::Click(*page, edit.rowToolbar, "EDIT");
+        test::PageHarness::Click(*page, edit.rowToolbar, "SAVE");
+        if (edit.saveMarks) harness.host.QueueAnswer(shell::Answer::OK);
         harness.container.Close(*page);
         state.PauseTiming();
-        if (harness.hub.ReadSetting(file).find("Edited:What is question number one?*one") ==
+        if (harness.hub.ReadSetting(edit.file).find("\r\n" + edit.saved + "\r\n") ==
             std::string::npos) {
             state.SkipWithError("the file wasn't saved whole");
         }
-        harness.hub.WriteSetting(file, text);
+        harness.hub.WriteSetting(edit.file, text);
         state.ResumeTiming();
     }
-    state.counters["questions"] = questions;
-    state.SetComplexityN(questions);
+    state.counters["rows"] = rows;
+    state.SetComplexityN(rows);
 }
-BENCHMARK(TriviaQuestions)
-    ->Arg(12500)
-    ->Arg(25000)
-    ->Arg(50000)
-    ->Arg(100000)
-    ->Unit(benchmark::kMillisecond)
-    ->Complexity(benchmark::oN);
+
+void TriviaQuestions(benchmark::State& state) {
+    EditGameList(state, {"Games~Trivia~Questions",
+                         "Games/Trivia/QuestionFiles/TriviaQuestions.lst",
+                         [](int n) {
+                             return "Category" + std::to_string(n % 40) +
+                                    ": What is question number " + std::to_string(n) + "?*Answer" +
+                                    std::to_string(n);
+                         },
+                         "lvwQuestions",
+                         "tlbQuestionFiles",
+                         "EDIT",
+                         true,
+                         "tlbQuestions",
+                         true,
+                         {"OK", {"Edited", "What is question number one?", "one"}},
+                         "Edited:What is question number one?*one"});
+}
+
+void AnagramWords(benchmark::State& state) {
+    EditGameList(state, {"Games~Anagrams",
+                         "Games/Anagrams/AnagramWords.lst",
+                         [](int n) { return "anagramword" + std::to_string(n); },
+                         "lvwWords",
+                         "tlbListview",
+                         "OPEN",
+                         false,
+                         "tlbListview",
+                         false,
+                         {"OK", {"edited"}},
+                         "edited"});
+}
+
+// The last question loses its answer at the save; the edited one is in the middle.
+void NumbersQuestions(benchmark::State& state) {
+    EditGameList(state, {"Games~Numbers",
+                         "Games/Numbers/NumbersQuestions.lst",
+                         [](int n) {
+                             return "Mathematics: What is " + std::to_string(n) + " Plus 2 = ??*" +
+                                    std::to_string(n + 2);
+                         },
+                         "lvwWords",
+                         "tlbListview",
+                         "OPEN",
+                         false,
+                         "tlbListview",
+                         false,
+                         {"OK", {"Edited", "What is 1 Plus 1 = ??", "2"}},
+                         "Edited:What is 1 Plus 1 = ??*2"});
+}
+
+// Each list at 12 500 to 100 000 rows: the cost should grow with the rows and no faster.
+void Rows(benchmark::internal::Benchmark* run) {
+    for (int rows : {12500, 25000, 50000, 100000})
+        run->Arg(rows);
+    run->Unit(benchmark::kMillisecond)->Complexity(benchmark::oN);
+}
+BENCHMARK(TriviaQuestions)->Apply(Rows);
+BENCHMARK(AnagramWords)->Apply(Rows);
+BENCHMARK(NumbersQuestions)->Apply(Rows);
 
 }  // namespace

@@ -1,6 +1,7 @@
-// Scrolling the long lists of the user actions in the real window, offscreen: a list of 20 000
-// quotations and a book of 10 000 spells, scrolled from top to bottom a page at a time, each
-// page painted before the next. The time of one page is what a user waits for as the list moves.
+// Scrolling the long lists in the real window, offscreen: a list of 20 000 quotations, a book of
+// 10 000 spells, and the games' word and question lists of 100 000 rows each, scrolled from top
+// to bottom a page at a time, each page painted before the next. The time of one page is what a
+// user waits for as the list moves.
 
 #include <benchmark/benchmark.h>
 
@@ -38,15 +39,19 @@ void Build(const test::TempHub& hub) {
     shell::RunStartChecks(container, builders);
 }
 
-// Opens the page in the window and scrolls its list through, a page at a time, painting each.
+// Opens the page in the window, and the list where its toolbar has an OPEN button, and scrolls
+// the list through, a page at a time, painting each.
 void Scroll(benchmark::State& state, const test::TempHub& hub, const std::string& key,
-            const char* list) {
+            const char* list, const char* openWith = nullptr) {
     gui::Application program(hub.Scripts());
     if (program.Open() >= 0) {
         state.SkipWithError("the start didn't open the window");
         return;
     }
-    program.Container().OpenFunctionPage(key);
+    shell::Page* page = program.Container().OpenFunctionPage(key);
+    if (openWith != nullptr && page != nullptr) {
+        static_cast<shell::Toolbar*>(page->Find(openWith))->UserClick("OPEN");
+    }
     QApplication::processEvents();
     auto* view = program.Window()->findChild<QTreeView*>(list);
     if (view == nullptr) {
@@ -98,6 +103,32 @@ void SpellBookScroll(benchmark::State& state) {
     Scroll(state, hub, "UserActions~Spells~SpellBook", "lvwSpells");
 }
 BENCHMARK(SpellBookScroll)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+// A game's list of 100 000 lines, opened with its OPEN button.
+void GameListScroll(benchmark::State& state, const char* key, const char* file,
+                    std::string (*line)(int n)) {
+    test::TempHub hub;
+    Build(hub);
+    std::string text;
+    for (int n = 1; n <= 100000; ++n)
+        text += line(n) + "\r\n";
+    hub.WriteSetting(file, text);
+    Scroll(state, hub, key, "lvwWords", "tlbListview");
+}
+
+void AnagramWordsScroll(benchmark::State& state) {
+    GameListScroll(state, "Games~Anagrams", "Games/Anagrams/AnagramWords.lst",
+                   [](int n) { return "anagramword" + std::to_string(n); });
+}
+BENCHMARK(AnagramWordsScroll)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+void NumbersQuestionsScroll(benchmark::State& state) {
+    GameListScroll(state, "Games~Numbers", "Games/Numbers/NumbersQuestions.lst", [](int n) {
+        return "Mathematics: What is " + std::to_string(n) + " Plus 2 = ??*" +
+               std::to_string(n + 2);
+    });
+}
+BENCHMARK(NumbersQuestionsScroll)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 }  // namespace
 

@@ -231,6 +231,10 @@ void Driver::Execute(const std::vector<std::string>& words) {
                 done =
                     static_cast<shell::UpDown&>(control).UserSetValue(ParseNumber(value, "VALUE"));
                 break;
+            case ControlKind::Slider:
+                done =
+                    static_cast<shell::Slider&>(control).UserSetValue(ParseNumber(value, "VALUE"));
+                break;
             case ControlKind::Option:
                 // An option is turned off only by picking another of its group.
                 done = ParseNumber(value, "VALUE") == 1 &&

@@ -72,6 +72,8 @@ const char* KindName(ControlKind kind) {
             return "tooltip";
         case ControlKind::Option:
             return "option";
+        case ControlKind::Slider:
+            return "slider";
     }
     return "?";
 }
@@ -163,6 +165,14 @@ void ControlJson(std::string& out, const Control& control) {
             json.Number("min", updown.Min());
             json.Number("max", updown.Max());
             json.Number("step", updown.Step());
+            break;
+        }
+        case ControlKind::Slider: {
+            const auto& slider = static_cast<const shell::Slider&>(control);
+            json.Text("caption", slider.Caption());
+            json.Number("value", slider.Value());
+            json.Number("min", slider.Min());
+            json.Number("max", slider.Max());
             break;
         }
         case ControlKind::Label:

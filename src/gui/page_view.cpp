@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSlider>
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTimer>
@@ -549,6 +550,26 @@ PageView::Shown PageView::Build(const shell::Control& constControl) {
             connect(spin, &QSpinBox::valueChanged, spin,
                     [&updown](int value) { Guard([&] { updown.UserSetValue(value); }); });
             return {CaptionOf(updown, spin), spin};
+        }
+        case ControlKind::Slider: {
+            auto& slider = static_cast<shell::Slider&>(control);
+            auto* bar = new QSlider(Qt::Horizontal);
+            bar->setObjectName(name);
+            bar->setTickPosition(QSlider::TicksBelow);
+            auto sync = [&slider, bar] {
+                const QSignalBlocker block(bar);
+                bar->setRange(slider.Min(), slider.Max());
+                bar->setSingleStep(slider.SmallChange());
+                bar->setPageStep(slider.LargeChange());
+                bar->setTickInterval(slider.SmallChange());
+                bar->setValue(slider.Value());
+                SyncCommon(slider, bar);
+            };
+            slider.SetListener(sync);
+            sync();
+            connect(bar, &QSlider::valueChanged, bar,
+                    [&slider](int value) { Guard([&] { slider.UserSetValue(value); }); });
+            return {CaptionOf(slider, bar), bar};
         }
         case ControlKind::Label: {
             auto* label = new QLabel;

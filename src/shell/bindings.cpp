@@ -451,6 +451,12 @@ std::unique_ptr<Control> MakeControl(const ControlDecl& decl) {
             return std::make_unique<Tooltip>(decl.name);
         case ControlKind::Option:
             return std::make_unique<OptionButton>(decl.name, decl.caption);
+        case ControlKind::Slider: {
+            auto slider = std::make_unique<Slider>(decl.name, decl.range->min, decl.range->max,
+                                                   decl.range->step, decl.largeChange);
+            slider->SetCaption(decl.caption);
+            return slider;
+        }
         case ControlKind::UpDown:
         case ControlKind::StatusBar:
             break;

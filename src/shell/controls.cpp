@@ -410,6 +410,18 @@ bool UpDown::UserSetValue(int value) {
     return true;
 }
 
+void Slider::SetValue(int value) {
+    value_ = value;
+    Changed();
+}
+
+bool Slider::UserSetValue(int value) {
+    if (!Enabled() || value < min_ || value > max_) return false;
+    SetValue(value);
+    if (onChange) onChange();
+    return true;
+}
+
 bool Button::UserClick() {
     if (!Enabled()) return false;
     if (onClick) onClick();

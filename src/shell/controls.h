@@ -23,7 +23,8 @@ enum class ControlKind {
     Frame,
     Button,
     Tooltip,
-    Option
+    Option,
+    Slider
 };
 
 class Control {
@@ -316,6 +317,35 @@ class UpDown : public Control {
     int max_;
     int step_;
     std::string buddy_;
+};
+
+// A slider: a thumb on a scale from its minimum to its maximum, moved a small change by the
+// arrow keys and a large change by a click beside the thumb.
+class Slider : public Control {
+  public:
+    Slider(std::string name, int min, int max, int smallChange, int largeChange)
+        : Control(ControlKind::Slider, std::move(name)),
+          min_(min),
+          max_(max),
+          smallChange_(smallChange),
+          largeChange_(largeChange) {}
+    int Value() const { return value_; }
+    void SetValue(int value);
+    int Min() const { return min_; }
+    int Max() const { return max_; }
+    int SmallChange() const { return smallChange_; }
+    int LargeChange() const { return largeChange_; }
+
+    std::function<void()> onChange;
+    // False for a value past either end: the thumb can't be put there.
+    bool UserSetValue(int value);
+
+  private:
+    int value_ = 0;
+    int min_;
+    int max_;
+    int smallChange_;
+    int largeChange_;
 };
 
 // An option button: one of a group of which at most one is on. Turning one on, in code or by the

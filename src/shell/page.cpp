@@ -230,8 +230,9 @@ std::string Page::BoundText(const store::FileSchema& file) const {
     const auto isBound = [&](const store::Field& field) {
         // A list bound to a whole sub-table writes it with the rows it holds, even with none.
         if (bindingOf(field, -1) != nullptr) return true;
-        // A value the page always writes the same needs no control.
-        if (file.pageForm.fixed.contains(field.key)) return true;
+        // A value or a table the page always writes the same needs no control.
+        if (file.pageForm.fixed.contains(field.key) || file.pageForm.fixedRows.contains(field.key))
+            return true;
         if (field.kind != store::FieldKind::NamedFlags) return false;
         for (size_t row = 0; row < field.rows.size(); ++row) {
             if (bindingOf(field, static_cast<int>(row)) != nullptr) return true;

@@ -75,6 +75,14 @@ ControlDecl Option(std::string name, std::string key, std::string caption, std::
             .value = std::move(value)};
 }
 
+ControlDecl Slider(std::string name, std::string caption, store::Range range, int largeChange) {
+    return {.kind = ControlKind::Slider,
+            .name = std::move(name),
+            .caption = std::move(caption),
+            .range = range,
+            .largeChange = largeChange};
+}
+
 ControlDecl Frame(std::string name, std::string caption) {
     return {.kind = ControlKind::Frame, .name = std::move(name), .caption = std::move(caption)};
 }

@@ -84,8 +84,10 @@ struct ControlDecl {
     std::vector<ListColumn> columns{};
     // An up-down shows its value in a read-only text box of this name, made just before it.
     std::string textBox{};
-    // The range of an up-down bound to nothing; a bound one takes its field's.
+    // The range of an up-down bound to nothing (a bound one takes its field's), or a slider's,
+    // whose step is its small change.
     std::optional<store::Range> range{};
+    int largeChange = 0;  // a slider's
     // The value an option button stands for in its field.
     std::string value{};
     bool multiLine = false;
@@ -125,6 +127,8 @@ ControlDecl SpinOnly(std::string textBox, std::string name, store::Range range);
 // An option button that stands for `value` of the field `key`. The options of one key, declared
 // one after the other, are one group: one of them is on, the one of the value the file holds.
 ControlDecl Option(std::string name, std::string key, std::string caption, std::string value);
+// A slider bound to nothing, over `range` (its step the small change), with a caption.
+ControlDecl Slider(std::string name, std::string caption, store::Range range, int largeChange);
 // A frame with a caption; the layout puts controls in it (InFrame).
 ControlDecl Frame(std::string name, std::string caption);
 // A profile check list: a row per profile, ticked from the sub-table `key`, one column of this
@@ -210,6 +214,9 @@ struct RowEditorDecl {
     Prompt floorPrompt{};
     // A list at its limit takes no more rows: NEW turns off.
     int limit = 0;
+    // A row added with the text of a row the list holds, letter case aside, is refused with this
+    // message, and the add goes on as the dialog ended. An edit is not checked.
+    std::optional<Prompt> refuseDuplicate{};
     RowTarget target = RowTarget::SelectedOrFirst;
     bool trimValues = false;  // the dialog shows the row's values without their blanks
     bool selectFirstAfterDelete = false;

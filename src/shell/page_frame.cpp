@@ -67,6 +67,18 @@ void SetupQuestionToolbar(Toolbar& toolbar) {
                              {"DELETE", "Delete question"}});
 }
 
+void SetupWordListToolbar(Toolbar& toolbar) {
+    AddListButtons(toolbar, {{"OPEN", "Open Words file"},
+                             {"SAVE", "Save Words file"},
+                             {"CLOSE", "Close Words file"},
+                             {"NEW", "Add new Word"},
+                             {"DELETE", "Delete Word"},
+                             {"EDIT", "Edit Word"}});
+    // A list is opened only on request: until then only OPEN can be clicked.
+    for (const char* key : {"SAVE", "CLOSE", "NEW", "DELETE", "EDIT"})
+        toolbar.SetButtonEnabled(key, false);
+}
+
 bool ResetFileEditor(Host& host, Toolbar& toolbar, ListControl& list, bool force) {
     if (!force) {
         force =

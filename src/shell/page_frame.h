@@ -20,6 +20,8 @@ void SetupAmendToolbar(Toolbar& toolbar);     // AMEND
 void SetupListToolbar(Toolbar& toolbar);      // NEW, DELETE, EDIT
 void SetupFileListToolbar(Toolbar& toolbar);  // NEW, OPEN, DELETE, EDIT on files
 void SetupQuestionToolbar(Toolbar& toolbar);  // SAVE, CLOSE, NEW, EDIT, DELETE on questions
+// OPEN, SAVE, CLOSE, NEW, DELETE, EDIT on a word or question file opened in place; OPEN alone on.
+void SetupWordListToolbar(Toolbar& toolbar);
 
 // SAVE (button 2) enabled, the separator behind it disabled, panel 1 "Save Required". Only SAVE
 // follows the dirty state: DISCARD stays enabled whether or not there is anything to discard.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "shell/table_lists.h"
+#include "store/paths.h"
 #include "store/text_rules.h"
 
 namespace qb::shell {
@@ -116,6 +117,12 @@ void RowEditor::Add() {
         if (onRequest) onRequest(request, 0);
         const DialogResult result = host_.ShowDialog(request);
         if (result.mode != "1" && result.mode != "A") break;
+        if (IsDuplicate(result.fields[0])) {
+            const Prompt& prompt = *decl_.refuseDuplicate;
+            host_.ShowMessage({prompt.text, prompt.title, Buttons::OK, prompt.icon});
+            if (result.mode != "A") break;
+            continue;
+        }
         const int row = list_.Count() + 1;
         // Where no field gives the row's text, the text is the row's number.
         const bool textGiven =
@@ -133,6 +140,15 @@ void RowEditor::Add() {
         if (result.mode != "A") break;
     }
     if (decl_.buttons == ButtonRule::FollowRows && list_.Count() > 0) EnableRowButtons(true);
+}
+
+bool RowEditor::IsDuplicate(const std::string& text) const {
+    if (!decl_.refuseDuplicate) return false;
+    const std::string folded = store::FoldCase(text);
+    for (const ListRow& row : list_.Rows()) {
+        if (store::FoldCase(row.text) == folded) return true;
+    }
+    return false;
 }
 
 void RowEditor::Edit() {

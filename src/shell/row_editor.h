@@ -49,6 +49,7 @@ class RowEditor {
     DialogRequest Request(const RowDialogDecl& dialog, int row) const;
     void Store(int row, const RowDialogDecl& dialog, const DialogResult& result);
     void EnableRowButtons(bool enabled);
+    bool IsDuplicate(const std::string& text) const;
 
     RowEditorDecl decl_;
     ListControl& list_;

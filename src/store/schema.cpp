@@ -29,19 +29,21 @@ std::vector<const Field*> InOrder(const FileSchema& schema, const WriterForm& fo
     return fields;
 }
 
-// One row of a list at `depth`.
-void ListRow(TableText& text, const Field& field, int depth, int number, const ListEntry& entry) {
+// One row of a list at `depth`, laid out as the writer's line form has it.
+void ListRow(TableText& text, const Field& field, const LineForm& line, int depth, int number,
+             const ListEntry& entry) {
     const std::string& raw = field.rowValue ? *field.rowValue : entry.value;
-    const std::string value = field.quotedRows ? "\"" + raw + "\"" : raw;
+    const std::string value = line.quoted.value_or(field.quotedRows) ? "\"" + raw + "\"" : raw;
+    const char* end = line.rowComma ? "," : "";
     switch (field.rowForm) {
         case RowForm::Bare:
-            text.Line(depth, value + ",");
+            text.Line(depth, value + end);
             break;
         case RowForm::Named:
-            text.Line(depth, "[\"" + entry.key + "\"] = " + value + ",");
+            text.Line(depth, "[\"" + entry.key + "\"] = " + value + end);
             break;
         case RowForm::Numbered:
-            text.Row(depth, number, value);
+            text.Line(depth, "[" + std::to_string(number) + "] = " + value + end);
             break;
     }
 }
@@ -116,10 +118,12 @@ std::string RenderTable(const FileSchema& schema, int lastProfile, const FieldVa
                 // The rows of the file's own table stand at its depth, with nothing around them.
                 const bool own = field->key == schema.table;
                 if (!own) text.Open(line.depth, key);
-                const std::vector<ListEntry> rows =
-                    rowsOf ? rowsOf(*field) : std::vector<ListEntry>{};
+                const auto fixed = form.fixedRows.find(field->key);
+                const std::vector<ListEntry> rows = fixed != form.fixedRows.end() ? fixed->second
+                                                    : rowsOf                      ? rowsOf(*field)
+                                                             : std::vector<ListEntry>{};
                 for (size_t row = 0; row < rows.size(); ++row) {
-                    ListRow(text, *field, own ? line.depth : line.rowDepth,
+                    ListRow(text, *field, line, own ? line.depth : line.rowDepth,
                             static_cast<int>(row) + 1, rows[row]);
                 }
                 if (!own) text.Close(line.depth);

@@ -102,10 +102,12 @@ enum class Writer { Page, Builder };
 
 // How one line is laid out where a writer departs from the common form.
 struct LineForm {
-    int depth = 1;                 // tabs before the key's line
-    int rowDepth = 2;              // tabs before a sub-table's rows
-    std::optional<bool> quoted{};  // a string key written bare, or a number quoted
-    std::string name{};            // the key written in place of the field's own
+    int depth = 1;     // tabs before the key's line
+    int rowDepth = 2;  // tabs before a sub-table's rows
+    // A string key written bare, or a number quoted; for a list, its rows' values.
+    std::optional<bool> quoted{};
+    std::string name{};    // the key written in place of the field's own
+    bool rowComma = true;  // a list's rows end in a comma
 };
 
 // A writer's own layout of the file; the default is the common form of every field.
@@ -116,6 +118,9 @@ struct WriterForm {
     std::map<std::string, LineForm> lines{};  // by key, the lines laid out otherwise
     // By key, the values this writer always writes, whatever the file or a control held.
     std::map<std::string, std::string> fixed{};
+    // By key, the rows this writer always writes for a list, whatever the file held: a table the
+    // scripts play by and the user never edits.
+    std::map<std::string, std::vector<ListEntry>> fixedRows{};
 };
 
 struct FileSchema {

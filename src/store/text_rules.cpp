@@ -69,9 +69,9 @@ std::vector<std::string_view> SplitAll(std::string_view text, std::string_view d
     }
 }
 
-bool IsNumericallyOne(std::string_view text) {
+std::optional<double> NumericValue(std::string_view text) {
     const std::string trimmed = TrimBlanks(text);
-    if (trimmed.empty()) return false;
+    if (trimmed.empty()) return std::nullopt;
     // Decimal numerals only: an optional sign, digits with an optional point, an optional exponent.
     size_t i = 0;
     if (trimmed[i] == '+' || trimmed[i] == '-') ++i;
@@ -84,7 +84,7 @@ bool IsNumericallyOne(std::string_view text) {
             ++i, ++digits;
         }
     }
-    if (digits == 0) return false;
+    if (digits == 0) return std::nullopt;
     if (i < trimmed.size() && (trimmed[i] == 'e' || trimmed[i] == 'E')) {
         ++i;
         if (i < trimmed.size() && (trimmed[i] == '+' || trimmed[i] == '-')) ++i;
@@ -92,14 +92,19 @@ bool IsNumericallyOne(std::string_view text) {
         while (i < trimmed.size() && std::isdigit(static_cast<unsigned char>(trimmed[i]))) {
             ++i, ++expDigits;
         }
-        if (expDigits == 0) return false;
+        if (expDigits == 0) return std::nullopt;
     }
-    if (i != trimmed.size()) return false;
+    if (i != trimmed.size()) return std::nullopt;
     // from_chars doesn't depend on the locale, which the desktop front end sets from the user's.
     const char* begin = trimmed.data() + (trimmed[0] == '+' ? 1 : 0);
     double number = 0;
     const auto [end, error] = std::from_chars(begin, trimmed.data() + trimmed.size(), number);
-    return error == std::errc() && end == trimmed.data() + trimmed.size() && number == 1.0;
+    if (error != std::errc() || end != trimmed.data() + trimmed.size()) return std::nullopt;
+    return number;
+}
+
+bool IsNumericallyOne(std::string_view text) {
+    return NumericValue(text) == 1.0;
 }
 
 }  // namespace qb::store

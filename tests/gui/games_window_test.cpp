@@ -1,10 +1,12 @@
 // The game pages in the real window: an option group turns its siblings off and keeps the one
-// that is on, the hint box keeps one character however it is typed, and a large question file
-// loaded into the editor finds a question by the first letters typed.
+// that is on, the hint box keeps one character however it is typed, a large question file
+// loaded into the editor finds a question by the first letters typed, and Hangman's slider,
+// moved with the keys, picks the stage its EDIT opens.
 
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTreeView>
 #include <QtTest>
 
@@ -79,6 +81,32 @@ class GamesWindowTest : public QObject {
         // Found while the user types, without a pause to notice (a generous bound for a debug
         // build under the sanitizers).
         QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void theSliderMovedByTheKeysPicksTheStageEditOpens() {
+        Start();
+        harness_->Host().openTextEditor = [this](const std::string& file, const std::string& mode) {
+            harness_->Container().OpenTextEditor(file, mode);
+        };
+        harness_->Window().OpenPage("Games~Hangman");
+        auto* slider = harness_->Window().findChild<QSlider*>("sldAscii");
+        QVERIFY(slider != nullptr);
+        QCOMPARE(slider->maximum(), 13);
+        // An arrow moves it one stage, a page key five.
+        slider->setFocus();
+        QTest::keyClick(slider, Qt::Key_PageUp);
+        QTest::keyClick(slider, Qt::Key_Right);
+        QCOMPARE(slider->value(), 6);
+        shell::Page* page = harness_->Container().Active();
+        QCOMPARE(static_cast<const shell::Slider*>(page->Find("sldAscii"))->Value(), 6);
+        QAction* edit = harness_->ToolbarButton("tlbAscii", "EDIT");
+        QVERIFY(edit != nullptr);
+        edit->trigger();
+        const shell::Page* editor = harness_->Container().Active();
+        QVERIFY(editor != page);
+        QCOMPARE(static_cast<const shell::TextBox*>(editor->Find("txtPath"))->Text(),
+                 std::string("Games\\Hangman\\Ascii\\7.asc"));
+        QVERIFY(!page->SaveRequired());
     }
 
   private:

@@ -6,6 +6,7 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
+#include <set>
 #include <vector>
 
 #include "support/area_rebuild.h"
@@ -134,6 +135,97 @@ TEST_F(GamesRebuild, EachGameGetsTheThreeFilesTheScriptsFillUnderItsPrefix) {
     }
 }
 
+// The chance games' tables in the builder's own form: the cards spelt with "Of", the chambers
+// bare, the payouts' "£" and "§" single bytes; a new comment file's one row stands without its
+// tab and comma; the clearers, the slot players and the stages start empty.
+TEST_F(GamesRebuild, AFreshTreeHoldsTheChanceGamesTheClearersAndTheStagesInTheBuildersForm) {
+    Rebuild(2);
+    const std::pair<const char*, std::string> built[] = {
+        {"ThreeCardMonty/ThreeCardMontySettings.tbl",
+         Crlf({"tThreeCardMontySettings = {", "\tbPlayInMain = 1,", "\tiWager = 1,",
+               "\tiMarker = 25,", "\ttDeal = {", "\t\t\"Ace Of Spades\",",
+               "\t\t\"Queen Of Hearts\",", "\t\t\"Ace Of Clubs\",", "\t},", "}"})},
+        {"ThreeCardMonty/ThreeCardMontyWin.tbl",
+         Crlf({"tThreeCardMontyWin = {", "\"The Gods smile upon you, this day\"", "}"})},
+        {"ThreeCardMonty/ThreeCardMontyLose.tbl",
+         Crlf({"tThreeCardMontyLose = {", "\"You lost. Play again, what else have you got going?\"",
+               "}"})},
+        {"RussianRoulette/RussianRouletteSettings.tbl",
+         Crlf({"tRussianRouletteSettings = {", "\tbInMain = 1,", "\ttBang = {", "\t\tDie,",
+               "\t\tLive,", "\t\tDie,", "\t\tDie,", "\t\tDie,", "\t\tDie,", "\t},", "}"})},
+        {"RussianRoulette/RussianRouletteLive.tbl",
+         Crlf({"tRussianRouletteLive = {", "\"You have survived... for now\"", "}"})},
+        {"RussianRoulette/RussianRouletteDie.tbl",
+         Crlf({"tRussianRouletteDie = {", "\"You're dead, now whose gonna clean up this mess?\"",
+               "}"})},
+        {"SlotMachine/SlotMachineSettings.tbl", Crlf({"tSlotMachineSettings = {",
+                                                      "\tbInMain = 1,",
+                                                      "\tiCredit = 50,",
+                                                      "\tiCreditPlay = 2,",
+                                                      "\tiCreditLoan = 1000,",
+                                                      "\ttResults = {",
+                                                      "\t\t[\"Bar\"] = 100,",
+                                                      "\t\t[\"7\"] = 50,",
+                                                      "\t\t[\"@\"] = 20,",
+                                                      "\t\t[\"$\"] = 10,",
+                                                      "\t\t[\"\xA3\"] = 5,",
+                                                      "\t\t[\"\xA7\"] = 3,",
+                                                      "\t\t[\"&\"] = 1,",
+                                                      "\t},",
+                                                      "\ttAux = {",
+                                                      "\t\t100,",
+                                                      "\t\t50,",
+                                                      "\t\t20,",
+                                                      "\t\t10,",
+                                                      "\t\t5,",
+                                                      "\t\t3,",
+                                                      "\t\t1,",
+                                                      "\t},",
+                                                      "}"})},
+        {"SlotMachine/SlotMachinePlayers.tbl", Crlf({"tSlotMachinePlayers = {", "}"})},
+        {"Globals/ScoreClearers.tbl", Crlf({"tScoreClearers = {", "}"})},
+    };
+    for (const auto& [file, text] : built)
+        EXPECT_EQ(Read(file), text) << file;
+    for (int stage = 0; stage <= 13; ++stage)
+        EXPECT_EQ(Read("Hangman/Ascii/" + std::to_string(stage) + ".asc"), "\r\n") << stage;
+}
+
+// Files the pages saved, the fixed tables edited by hand: a rebuild keeps each scalar and writes
+// the tables back in its own form.
+TEST_F(GamesRebuild, ARebuildKeepsTheChanceScalarsAndWritesTheTablesBackInItsForm) {
+    Rebuild(2);
+    const std::string monty = Read("ThreeCardMonty/ThreeCardMontySettings.tbl");
+    const std::string slot = Read("SlotMachine/SlotMachineSettings.tbl");
+    Write("ThreeCardMonty/ThreeCardMontySettings.tbl",
+          Crlf({"tThreeCardMontySettings = {", "\tbPlayInMain = 0,", "\tiWager = 7,",
+                "\tiMarker = 300,", "\ttDeal = {", "\t\t\"Ace of Spades\",", "\t},", "}"}));
+    Write("RussianRoulette/RussianRouletteSettings.tbl",
+          Crlf({"tRussianRouletteSettings = {", "\tbInMain = 0,", "\ttBang = {", "\t\t\"Live\",",
+                "\t},", "}"}));
+    Write(
+        "SlotMachine/SlotMachineSettings.tbl",
+        Crlf({"tSlotMachineSettings = {", "\tbInMain = 0,", "\tiCredit = 55,", "\tiCreditPlay = 9,",
+              "\tiCreditLoan = 995,", "\ttResults = {", "\t\t[\"Bar\"] = 1,", "\t},", "}"}));
+    Rebuild(2);
+    const auto with = [](std::string text, const std::string& from, const std::string& to) {
+        text.replace(text.find(from), from.size(), to);
+        return text;
+    };
+    EXPECT_EQ(
+        Read("ThreeCardMonty/ThreeCardMontySettings.tbl"),
+        with(with(with(monty, "bPlayInMain = 1", "bPlayInMain = 0"), "iWager = 1", "iWager = 7"),
+             "iMarker = 25", "iMarker = 300"));
+    EXPECT_EQ(Read("RussianRoulette/RussianRouletteSettings.tbl"),
+              Crlf({"tRussianRouletteSettings = {", "\tbInMain = 0,", "\ttBang = {", "\t\tDie,",
+                    "\t\tLive,", "\t\tDie,", "\t\tDie,", "\t\tDie,", "\t\tDie,", "\t},", "}"}));
+    EXPECT_EQ(
+        Read("SlotMachine/SlotMachineSettings.tbl"),
+        with(with(with(with(slot, "bInMain = 1", "bInMain = 0"), "iCredit = 50", "iCredit = 55"),
+                  "iCreditPlay = 2", "iCreditPlay = 9"),
+             "iCreditLoan = 1000", "iCreditLoan = 995"));
+}
+
 // A file the page saved, then edited by hand: a rebuild keeps every value it finds, in the
 // builder's order, fills what is missing and drops what it doesn't know.
 TEST_F(GamesRebuild, ARebuildKeepsValuesInItsOwnOrderFillsTheMissingAndDropsTheUnknown) {
@@ -184,11 +276,22 @@ TEST_F(GamesRebuild, ARebuildKeepsValuesInItsOwnOrderFillsTheMissingAndDropsTheU
 
 TEST_F(GamesRebuild, FilesTheScriptsOrTheUserFillAreNeverTouchedAndTwoRebuildsAgree) {
     Rebuild(2);
-    const char* kept[] = {
-        "Anagrams/AnagramWords.lst",      "Hangman/HangmanWords.lst",
-        "Numbers/NumbersQuestions.lst",   "Trivia/QuestionFiles/TriviaQuestions.lst",
-        "Trivia/TriviaQuestionFiles.tbl", "Trivia/TriviaScores.tbl",
-        "Hangman/HangmanPlayers.tbl",     "Numbers/NumbersScoresArchiveIndex.tbl"};
+    const char* kept[] = {"Anagrams/AnagramWords.lst",
+                          "Hangman/HangmanWords.lst",
+                          "Numbers/NumbersQuestions.lst",
+                          "Trivia/QuestionFiles/TriviaQuestions.lst",
+                          "Trivia/TriviaQuestionFiles.tbl",
+                          "Trivia/TriviaScores.tbl",
+                          "Hangman/HangmanPlayers.tbl",
+                          "Numbers/NumbersScoresArchiveIndex.tbl",
+                          "Hangman/Ascii/0.asc",
+                          "Hangman/Ascii/13.asc",
+                          "ThreeCardMonty/ThreeCardMontyWin.tbl",
+                          "ThreeCardMonty/ThreeCardMontyLose.tbl",
+                          "RussianRoulette/RussianRouletteLive.tbl",
+                          "RussianRoulette/RussianRouletteDie.tbl",
+                          "SlotMachine/SlotMachinePlayers.tbl",
+                          "Globals/ScoreClearers.tbl"};
     for (const char* file : kept)
         Write(file, std::string("hand-made ") + file);
     Rebuild(2);
@@ -240,16 +343,41 @@ class OpenWatch {
     int fd_;
 };
 
-// A question file may hold many thousands of lines: the page reads one only when asked to.
-TEST_F(GamePages, OpeningTheQuestionPageReadsNoQuestionFileUntilEditAsks) {
-    const OpenWatch watch(hub.Settings() / "Games/Trivia/QuestionFiles");
-    shell::Page* page = container.Open("Games~Trivia~Questions");
-    ASSERT_NE(page, nullptr);
-    EXPECT_EQ(watch.Opened(), std::vector<std::string>{});
-    host.QueueAnswer(shell::Answer::OK);
-    EXPECT_TRUE(Click(*page, "tlbQuestionFiles", "EDIT"));
-    EXPECT_EQ(watch.Opened(), std::vector<std::string>{"TriviaQuestions.lst"});
-    EXPECT_TRUE(container.Close(*page));
+// A question or word file may hold many thousands of lines: a page reads one only when the user
+// asks for it, the trivia editor after a warning.
+TEST_F(GamePages, APageReadsNoQuestionOrWordFileUntilTheUserAsks) {
+    const struct {
+        const char* key;
+        const char* folder;
+        const char* toolbar;
+        const char* button;
+        bool warns;
+        const char* file;
+    } lists[] = {
+        {"Games~Trivia~Questions", "Games/Trivia/QuestionFiles", "tlbQuestionFiles", "EDIT", true,
+         "TriviaQuestions.lst"},
+        {"Games~Anagrams", "Games/Anagrams", "tlbListview", "OPEN", false, "AnagramWords.lst"},
+        {"Games~Hangman", "Games/Hangman", "tlbListview", "OPEN", false, "HangmanWords.lst"},
+        {"Games~Numbers", "Games/Numbers", "tlbListview", "OPEN", false, "NumbersQuestions.lst"},
+    };
+    for (const auto& list : lists) {
+        SCOPED_TRACE(list.key);
+        const OpenWatch watch(hub.Settings() / list.folder);
+        const auto listsOpened = [&] {
+            std::vector<std::string> opened;
+            for (const std::string& name : watch.Opened()) {
+                if (name.ends_with(".lst")) opened.push_back(name);
+            }
+            return opened;
+        };
+        shell::Page* page = container.Open(list.key);
+        ASSERT_NE(page, nullptr);
+        EXPECT_EQ(listsOpened(), std::vector<std::string>{});
+        if (list.warns) host.QueueAnswer(shell::Answer::OK);
+        EXPECT_TRUE(Click(*page, list.toolbar, list.button));
+        EXPECT_EQ(listsOpened(), std::vector<std::string>{list.file});
+        EXPECT_TRUE(container.Close(*page));
+    }
 }
 
 TEST_F(GamePages, APageSaveAndTheBuildersFileHoldTheSameValues) {
@@ -282,6 +410,32 @@ TEST_F(GamePages, APageSaveAndTheBuildersFileHoldTheSameValues) {
         EXPECT_EQ(saved, built);
         ASSERT_TRUE(container.Close(*page));
     }
+}
+
+// Each of the fourteen positions of Hangman's slider opens its own stage, counted down from the
+// last; the slider can't be set past either end, and neither it nor EDIT marks the page.
+TEST_F(GamePages, EachSliderPositionOpensItsStageCountedDownFromTheLast) {
+    host.openTextEditor = [this](const std::string& file, const std::string& mode) {
+        container.OpenTextEditor(file, mode);
+    };
+    shell::Page* page = container.Open("Games~Hangman");
+    ASSERT_NE(page, nullptr);
+    auto& slider = static_cast<shell::Slider&>(*page->Find("sldAscii"));
+    EXPECT_FALSE(slider.UserSetValue(-1));
+    EXPECT_FALSE(slider.UserSetValue(14));
+    std::set<std::string> opened;
+    for (int position = 13; position >= 0; --position) {
+        ASSERT_TRUE(slider.UserSetValue(position));
+        ASSERT_TRUE(Click(*page, "tlbAscii", "EDIT"));
+        shell::Page* editor = container.Active();
+        ASSERT_NE(editor, page);
+        const std::string file = static_cast<shell::TextBox*>(editor->Find("txtPath"))->Text();
+        EXPECT_EQ(file, "Games\\Hangman\\Ascii\\" + std::to_string(13 - position) + ".asc");
+        opened.insert(file);
+        ASSERT_TRUE(container.Close(*editor));
+    }
+    EXPECT_EQ(opened.size(), 14u);
+    EXPECT_FALSE(page->SaveRequired());
 }
 
 }  // namespace

@@ -91,6 +91,12 @@ const std::map<std::string, std::string>& SaveDiffers() {
         {"Security~UserLog", "the builder writes its keys in an order of its own"},
         {"Security~MainBlock", "the builder writes the block time after the profile lists"},
         {"Security~AntiVirus", "the builder writes the action ahead of the ban time"},
+        {"Games~ThreeCardMonty",
+         "the builder spells the cards with \"Of\", and writes a new comment file's one row "
+         "without its tab and comma"},
+        {"Games~RussianRoulette",
+         "the builder writes the chambers bare, and a new comment file's one row without its tab "
+         "and comma"},
     };
     return pages;
 }

@@ -18,8 +18,6 @@ using shell::Icon;
 using shell::ListControl;
 using shell::Toolbar;
 
-constexpr std::string_view kNewline = store::kNewline;
-
 shell::PageDecl MakeDecl(const QuestionFiles& member) {
     using namespace shell::decl;
     using shell::Item;
@@ -63,7 +61,8 @@ class QuestionFilesPage : public shell::Page {
           files_(Get<ListControl>(member.fileList)),
           fileBar_(Get<Toolbar>(member.fileToolbar)),
           rows_(Get<ListControl>(member.rowList)),
-          rowBar_(Get<Toolbar>(member.rowToolbar)) {
+          rowBar_(Get<Toolbar>(member.rowToolbar)),
+          questions_(rows_, context.host, context.files, member.words.rows, member.answers) {
         combo_.onClick = [this] { MarkDirty(); };
         fileBar_.onButtonClick = [this](const std::string& key) {
             if (key == "NEW") CreateQuestionFile();
@@ -76,7 +75,8 @@ class QuestionFilesPage : public shell::Page {
             if (key == "CLOSE") CloseQuestions();
             if (key == "NEW") AddQuestion();
             if (key == "EDIT") EditQuestion();
-            if (key == "DELETE") DeleteQuestion();
+            // Deleting a question leaves the editor's SAVE as it was.
+            if (key == "DELETE") questions_.Delete();
         };
         files_.onDoubleClick = [this](int) {
             if (files_.Count() > 0) OpenQuestionFile();
@@ -253,87 +253,24 @@ class QuestionFilesPage : public shell::Page {
         if (row == 0) return;
         if (rows_.Count() > 0) ResetFileEditor(true);
         if (!Ask(words_.loadWarning, "Load file?")) return;
-        shell::LoadTableRows(context_.files, PathOf(files_.Row(row).text), rows_,
-                             member_.answers ? "*" : "", "", false, false, false);
+        questions_.Load(PathOf(files_.Row(row).text));
         rowBar_.SetButtonEnabled("SAVE", false);
         for (const char* key : {"CLOSE", "NEW", "EDIT", "DELETE"})
             rowBar_.SetButtonEnabled(key, true);
     }
 
-    // The row's text from the dialog's fields before the answer, joined by colons.
-    std::string RowText(const shell::DialogResult& result) const {
-        std::string text;
-        for (size_t field = 0; field < TextFields(); ++field) {
-            if (field > 0) text += ":";
-            text += result.fields[field];
-        }
-        return text;
-    }
-    size_t TextFields() const { return member_.answers ? 2 : 1; }
-
-    void Stored() {
-        rowBar_.SetButtonEnabled("SAVE", true);
-        fileBar_.SetButtonEnabled(1, true);
-    }
-
+    // Each question added or edited lights the editor's SAVE; an added one the file list's
+    // first button too.
     void AddQuestion() {
-        for (;;) {
-            shell::DialogRequest request{
-                .kind =
-                    member_.answers ? shell::DialogKind::ThreeFields : shell::DialogKind::OneFields,
-                .caption = words_.addTitle,
-                .labels = words_.addLabels,
-                .mode = "A",
-                // No field bars the Add button: questions go in one after the other.
-                .required = member_.answers ? 2 : 1};
-            const shell::DialogResult result = context_.host.ShowDialog(request);
-            if (result.mode != "1" && result.mode != "A") return;
-            const int row = rows_.Count() + 1;
-            rows_.Append(shell::NewRowKey(context_.files, row), RowText(result));
-            if (member_.answers) rows_.SetCell(row, 2, result.fields[2]);
-            Stored();
-            if (result.mode != "A") return;
-        }
+        questions_.Add([this] {
+            rowBar_.SetButtonEnabled("SAVE", true);
+            fileBar_.SetButtonEnabled(1, true);
+        });
     }
 
-    // The row's text is split at every colon and only the first pieces are offered: a text
-    // with a further colon loses what stands behind it when the edit is confirmed.
     void EditQuestion() {
-        const int row = rows_.Selected() != 0 ? rows_.Selected() : (rows_.Count() > 0 ? 1 : 0);
-        if (row == 0) return;
-        shell::DialogRequest request{
-            .kind = member_.answers ? shell::DialogKind::ThreeFields : shell::DialogKind::OneFields,
-            .caption = words_.editTitle,
-            .labels = words_.editLabels,
-            .mode = "E",
-            .required = member_.answers ? 2 : 1};
-        const std::string& text = rows_.Row(row).text;
-        size_t from = 0;
-        for (size_t field = 0; field < TextFields() && from <= text.size(); ++field) {
-            const size_t colon = text.find(':', from);
-            request.values[field] = store::TrimBlanks(
-                text.substr(from, colon == std::string::npos ? std::string::npos : colon - from));
-            from = colon == std::string::npos ? text.size() + 1 : colon + 1;
-        }
-        if (member_.answers) request.values[2] = rows_.Cell(row, 2);
-        const shell::DialogResult result = context_.host.ShowDialog(request);
-        if (result.mode != "1") return;
-        rows_.SetText(row, RowText(result));
-        if (member_.answers) rows_.SetCell(row, 2, result.fields[2]);
-        rowBar_.SetButtonEnabled("SAVE", true);
-    }
-
-    // Deleting a question leaves the editor's SAVE as it was.
-    void DeleteQuestion() {
-        if (rows_.Count() == 0) return;
-        if (rows_.Count() == 1) {
-            CannotDelete(words_.rowFloor);
-            return;
-        }
-        const int row = rows_.Selected() != 0 ? rows_.Selected() : 1;
-        if (!Ask(words_.rowConfirm, words_.rowConfirmTitle)) return;
-        rows_.Remove(row);
-        rows_.Select(1);
+        if (questions_.Edit() == QuestionRows::Edited::Changed)
+            rowBar_.SetButtonEnabled("SAVE", true);
     }
 
     // Every row with its line break, to the file of the row selected now: that may be another
@@ -341,16 +278,7 @@ class QuestionFilesPage : public shell::Page {
     void SaveQuestions() {
         const int fileRow = FileRow();
         if (fileRow == 0) return;
-        std::string text;
-        for (const shell::ListRow& row : rows_.Rows()) {
-            text += row.text;
-            if (member_.answers) {
-                text += "*";
-                text += row.cells.empty() ? std::string() : row.cells.front();
-            }
-            text += kNewline;
-        }
-        context_.files.WriteTextFile(PathOf(files_.Row(fileRow).text), text);
+        context_.files.WriteTextFile(PathOf(files_.Row(fileRow).text), questions_.Text(true));
         rowBar_.SetButtonEnabled("SAVE", false);
         MarkDirty();
     }
@@ -368,6 +296,7 @@ class QuestionFilesPage : public shell::Page {
     Toolbar& fileBar_;
     ListControl& rows_;
     Toolbar& rowBar_;
+    QuestionRows questions_;
     Toolbar* popped_ = nullptr;
 };
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "families/quiz/question_rows.h"
 #include "shell/page_decl.h"
 #include "shell/page_registry.h"
 #include "store/schema.h"
@@ -22,13 +23,7 @@ struct QuestionWords {
     std::string sample;       // the line a new file holds
     std::string fileFloor;    // why the last file can't be deleted ("Cannot delete")
     std::string fileConfirm;  // the title of the question before a file leaves the list
-    std::string addTitle;     // the dialogs
-    std::vector<std::string> addLabels;
-    std::string editTitle;
-    std::vector<std::string> editLabels;
-    std::string rowFloor;         // why the last row can't be deleted ("Cannot delete")
-    std::string rowConfirm;       // the question before a row goes
-    std::string rowConfirmTitle;  // and its title
+    QuestionRowWords rows;    // the editor's dialogs and prompts
 };
 
 struct QuestionFiles {

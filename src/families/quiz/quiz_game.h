@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "families/quiz/word_list.h"
 #include "shell/page_decl.h"
 #include "shell/page_registry.h"
 #include "store/builders.h"
@@ -66,6 +67,15 @@ struct QuizCalculation {
     std::string defaultValue;
 };
 
+// Pictures of the game's progress, one a stage: files "0.asc" to the last stage's, in a folder of
+// the game's, which the user draws in the text editor. A slider picks the stage EDIT opens,
+// counted down from the last: the slider's zero end edits the last stage.
+struct QuizStages {
+    std::string folder;  // in the game's folder: "Ascii"
+    int last;            // 13: the stages are 0.asc to 13.asc
+    int largeChange;     // the slider's step on a click beside its thumb
+};
+
 // A file the scripts or the user fill, written by the builder only when it is missing.
 struct QuizDataFile {
     std::string name;  // in the game's folder
@@ -102,6 +112,9 @@ struct QuizGame {
     std::string requiredText{};
     shell::Prompt requiredPrompt{};
     std::vector<QuizDataFile> dataFiles{};
+    // The list of words or questions the game draws from, edited in place on the page.
+    std::optional<WordList> words{};
+    std::optional<QuizStages> stages{};
 };
 
 // The six check boxes every game has, in the order of their array.
@@ -111,8 +124,8 @@ const std::vector<QuizFlag>& SharedQuizFlags();
 const store::FileSchema& QuizSettingsSchema(const QuizGame& game);
 // The game's page.
 shell::PageEntry QuizPageOf(const QuizGame& game);
-// The game's builders: its settings file, then its data files and the three files the scripts
-// fill, each only when missing.
+// The game's builders: its settings file, then its data files, its word list, its stages and the
+// three files the scripts fill, each only when missing.
 std::vector<store::BuildStep> QuizBuilds(const QuizGame& game);
 
 }  // namespace qb::pages

@@ -5,6 +5,7 @@
 #include "families/quiz/quiz_game.h"
 #include "shell/page_frame.h"
 #include "store/table_text.h"
+#include "store/text_rules.h"
 
 namespace qb::pages {
 namespace {
@@ -131,6 +132,19 @@ void SetupNumbersToolbar(shell::Toolbar& toolbar) {
     toolbar.SetButtonTip("EDIT", "Edit question");
 }
 
+void SetupAsciiToolbar(shell::Toolbar& toolbar) {
+    SetupEditToolbar(toolbar);
+    toolbar.SetButtonTip("EDIT", "Edit ascii");
+}
+
+// The width of a list: its columns beside a scroll bar.
+int WidthOf(const std::vector<shell::ListColumn>& columns) {
+    int width = 350;
+    for (const shell::ListColumn& column : columns)
+        width += column.width;
+    return width;
+}
+
 struct QuizParts {
     store::FileSchema schema;
     shell::PageDecl page;
@@ -199,11 +213,24 @@ shell::PageDecl MakePage(const QuizGame& game, const store::FileSchema& schema) 
                                       {"column5", "Y Max", 850}}));
         right.items.push_back(Item("tlbNumbers"));
         right.items.push_back(Item("lvwNumbers"));
-    } else {
-        right.items.push_back(shell::Stretch());
     }
+    if (game.stages) {
+        page.controls.push_back(
+            Slider("sldAscii", "Ascii", {0, game.stages->last, 1}, game.stages->largeChange));
+        page.controls.push_back(Toolbar("tlbAscii", {SetupAsciiToolbar}));
+        right.items.push_back(shell::Row({Item("sldAscii"), Item("tlbAscii"), shell::Stretch()}));
+    }
+    if (game.words) {
+        page.controls.push_back(Toolbar(kWordToolbar, {shell::SetupWordListToolbar}));
+        page.controls.push_back(List(kWordList, WidthOf(game.words->columns), game.words->columns));
+        right.items.push_back(Item(kWordToolbar));
+        right.items.push_back(Item(kWordList));
+    }
+    // A column of lists fills the page's height; options alone keep to the top.
+    if (game.calculation.empty() && !game.words) right.items.push_back(shell::Stretch());
     shell::Layout body = shell::Row({checks, numbers});
-    if (!game.options.empty() || !game.calculation.empty()) body.items.push_back(right);
+    if (!game.options.empty() || !game.calculation.empty() || game.stages || game.words)
+        body.items.push_back(right);
     page.layout = std::move(body);
     return page;
 }
@@ -226,8 +253,32 @@ class QuizPage : public shell::Page {
         const store::FileSchema& schema = PartsOf(game).schema;
         for (const store::Field& field : schema.fields) {
             if (field.kind != FieldKind::NamedValues) continue;
-            AddBinding(std::make_unique<CalculationBinding>(schema, field, game,
-                                                            Get<shell::ListControl>("lvwNumbers")));
+            auto& operands = Get<shell::ListControl>("lvwNumbers");
+            AddBinding(std::make_unique<CalculationBinding>(schema, field, game, operands));
+            Get<shell::Toolbar>("tlbNumbers").onButtonClick = [this](const std::string& key) {
+                if (key == "EDIT") EditOperands();
+            };
+            operands.onDoubleClick = [this](int) { EditOperands(); };
+        }
+        if (game.stages) {
+            Get<shell::Toolbar>("tlbAscii").onButtonClick = [this](const std::string&) {
+                EditStage();
+            };
+        }
+        if (game.words) {
+            auto& toolbar = Get<shell::Toolbar>(kWordToolbar);
+            words_ = std::make_unique<WordListEditor>(
+                *game.words, game.folder + "\\" + game.words->file,
+                Get<shell::ListControl>(kWordList), toolbar, context.host, context.files,
+                [this] { ShowPopupMenu("mnuFirst"); });
+            // The shared menu's entries do what the list's buttons do, where they can.
+            for (const auto& [entry, button] :
+                 {std::pair{"Add", "NEW"}, std::pair{"Delete", "DELETE"},
+                  std::pair{"Edit", "EDIT"}}) {
+                PublishMenuMethod(
+                    std::string("gMenuFirst") + entry + "Click",
+                    [&toolbar, key = std::string(button)] { toolbar.UserClick(key); });
+            }
         }
     }
 
@@ -244,7 +295,48 @@ class QuizPage : public shell::Page {
     }
 
   private:
+    // An operand row in the four-field dialog. Only X Minimum is tested, and only for being a
+    // number: a refused edit opens the dialog again on the row as it was. The edit marks nothing:
+    // the row reaches the file with the next save that something else enables.
+    void EditOperands() {
+        auto& operands = Get<shell::ListControl>("lvwNumbers");
+        if (operands.Count() == 0) return;
+        const int row = operands.Selected() != 0 ? operands.Selected() : 1;
+        for (;;) {
+            shell::DialogRequest request{
+                .kind = shell::DialogKind::FourFields,
+                .caption = "Edit Question",
+                .labels = {"X Minimum", "X Maximum", "Y Minimum", "Y Maximum"},
+                .mode = "E",
+                // X Minimum is painted as the field that must hold something, and an edit of
+                // one row has no Add.
+                .required = 0};
+            for (int column = 2; column <= 5; ++column)
+                request.values[static_cast<size_t>(column - 2)] = operands.Cell(row, column);
+            const shell::DialogResult result = context_.host.ShowDialog(request);
+            if (result.mode.empty()) return;
+            if (!store::NumericValue(result.fields[0])) {
+                context_.host.ShowMessage({"Invalid Entry: Integers required in all fields",
+                                           "Invalid Entry", shell::Buttons::OK,
+                                           shell::Icon::Exclamation});
+                continue;
+            }
+            for (int column = 2; column <= 5; ++column)
+                operands.SetCell(row, column, result.fields[static_cast<size_t>(column - 2)]);
+            return;
+        }
+    }
+
+    // The slider picks the stage, counted down from the last.
+    void EditStage() {
+        const QuizStages& stages = *game_.stages;
+        const int stage = stages.last - Get<shell::Slider>("sldAscii").Value();
+        context_.host.OpenTextEditor(
+            game_.folder + "\\" + stages.folder + "\\" + std::to_string(stage) + ".asc", "E");
+    }
+
     const QuizGame& game_;
+    std::unique_ptr<WordListEditor> words_;
 };
 
 // A file the scripts fill, made when missing with its first text.
@@ -284,6 +376,8 @@ std::vector<store::BuildStep> QuizBuilds(const QuizGame& game) {
     std::vector<store::BuildStep> steps{QuizSettingsSchema(game)};
     for (const QuizDataFile& file : game.dataFiles)
         steps.push_back(DataFile(game.folder + "\\" + file.name, file.text));
+    if (game.words)
+        steps.push_back(DataFile(game.folder + "\\" + game.words->file, game.words->sample));
     // The players, the index of archived scores and the scores: empty tables the scripts fill.
     const std::string newline(store::kNewline);
     for (const char* part : {"Players", "ScoresArchiveIndex"}) {
@@ -294,6 +388,14 @@ std::vector<store::BuildStep> QuizBuilds(const QuizGame& game) {
     const std::string scores = game.prefix + "Scores";
     steps.push_back(DataFile(game.folder + "\\" + scores + ".tbl",
                              "t" + scores + " = {" + newline + "\tn=0" + newline + "}"));
+    // The stages are empty until the user draws them.
+    if (game.stages) {
+        for (int stage = 0; stage <= game.stages->last; ++stage) {
+            steps.push_back(DataFile(
+                game.folder + "\\" + game.stages->folder + "\\" + std::to_string(stage) + ".asc",
+                ""));
+        }
+    }
     return steps;
 }
 

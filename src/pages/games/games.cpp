@@ -10,6 +10,12 @@ const std::vector<const QuizGame*>& QuizGames() {
     return games;
 }
 
+const std::vector<const ChanceGame*>& ChanceGames() {
+    static const std::vector<const ChanceGame*> games = {
+        &ThreeCardMontyGame(), &RussianRouletteGame(), &SlotMachineGame()};
+    return games;
+}
+
 }  // namespace
 
 void RegisterGamePages(shell::PageRegistry& registry) {
@@ -17,6 +23,9 @@ void RegisterGamePages(shell::PageRegistry& registry) {
     for (const QuizGame* game : QuizGames())
         pages.push_back(QuizPageOf(*game));
     pages.push_back(QuestionFilesPageOf(TriviaQuestions()));
+    for (const ChanceGame* game : ChanceGames())
+        pages.push_back(ChancePageOf(*game));
+    pages.push_back(ScoreClearersPage());
     registry.Register(pages);
 }
 
@@ -28,6 +37,11 @@ void RegisterGameBuilders(store::BuilderRegistry& builders) {
             steps.push_back(std::move(step));
     }
     steps.emplace_back(TriviaQuestionFilesSchema());
+    for (const ChanceGame* game : ChanceGames()) {
+        for (store::BuildStep& step : ChanceBuilds(*game))
+            steps.push_back(std::move(step));
+    }
+    steps.emplace_back(ScoreClearersSchema());
     builders.Add(steps);
 }
 

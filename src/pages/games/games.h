@@ -6,6 +6,7 @@
 
 #include "families/quiz/question_files.h"
 #include "families/quiz/quiz_game.h"
+#include "pages/games/chance_game.h"
 #include "shell/page_registry.h"
 #include "store/builders.h"
 #include "store/schema.h"
@@ -22,6 +23,16 @@ const QuizGame& CodeBreakerGame();
 const QuizGame& GuessTheNumberGame();
 const QuizGame& HangmanGame();
 const QuizGame& NumbersGame();
+
+// The three chance games, members of the chance page (chance_games.cpp).
+const ChanceGame& ThreeCardMontyGame();
+const ChanceGame& RussianRouletteGame();
+const ChanceGame& SlotMachineGame();
+
+// Games\Globals\ScoreClearers.tbl, the users who may clear the games' scores, and its page
+// (score_clearers.cpp).
+const store::FileSchema& ScoreClearersSchema();
+const shell::PageDecl& ScoreClearersPage();
 
 // The trivia question files, a member of the question file page (trivia_questions.cpp).
 const QuestionFiles& TriviaQuestions();

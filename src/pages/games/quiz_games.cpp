@@ -49,6 +49,22 @@ QuizText HintBox(std::string key, std::string caption) {
     return {"txtTextBox(0)", std::move(key), std::move(caption), {.oneCharacter = true}};
 }
 
+// A word a line, made with one word in it. The list's prompt before a delete has always spoken
+// of a question.
+WordList Words(std::string file) {
+    return {.file = std::move(file),
+            .sample = "quillbook",
+            .columns = {{"column1", "", 2400}},
+            .editOpens = true,
+            .words = {.addTitle = "Add Word",
+                      .addLabels = {"Word"},
+                      .editTitle = "Edit Word",
+                      .editLabels = {"Word"},
+                      .rowFloor = "There must be a minimum of one Word",
+                      .rowConfirm = "Do you really want to delete this question?",
+                      .rowConfirmTitle = "Delete Word?"}};
+}
+
 }  // namespace
 
 const QuizGame& TriviaGame() {
@@ -125,7 +141,7 @@ const QuizGame& AnagramsGame() {
                   kFlags,
                   {"iArchiveScores"}}),
         .oneCharacterDefaults = {"sHintChar"},
-        .dataFiles = {{"AnagramWords.lst", "quillbook"}},
+        .words = Words("AnagramWords.lst"),
     };
     return game;
 }
@@ -249,7 +265,8 @@ const QuizGame& HangmanGame() {
         .requiredText = "txtTextBox(0)",
         .requiredPrompt = {"A Hint Character is required", "Hidden Character required",
                            shell::Icon::Exclamation},
-        .dataFiles = {{"HangmanWords.lst", "quillbook"}},
+        .words = Words("HangmanWords.lst"),
+        .stages = QuizStages{.folder = "Ascii", .last = 13, .largeChange = 5},
     };
     return game;
 }
@@ -292,7 +309,19 @@ const QuizGame& NumbersGame() {
                          "bArchiveScores",  "iArchiveScores"},
         // The page writes the count of questions with two blanks, the builder with one.
         .pageLines = {{"iQuestions", {.name = "iQuestions "}}},
-        .dataFiles = {{"NumbersQuestions.lst", "Mathematics: What is 2 Plus 2 = ??*4"}},
+        // A question and its answer a line, saved without the last one's answer. Its prompt
+        // before a delete is the word pages'.
+        .words = WordList{.file = "NumbersQuestions.lst",
+                          .sample = "Mathematics: What is 2 Plus 2 = ??*4",
+                          .columns = {{"column1", "Questions", 2800}, {"column2", "Answers", 1050}},
+                          .answers = true,
+                          .words = {.addTitle = "Add Question",
+                                    .addLabels = {"Category", "Question", "Answer"},
+                                    .editTitle = "Edit Question",
+                                    .editLabels = {"Category", "Question", "Answer"},
+                                    .rowFloor = "There must be a minimum of one Question",
+                                    .rowConfirm = "Do you really want to delete this question?",
+                                    .rowConfirmTitle = "Delete Word?"}},
     };
     return game;
 }

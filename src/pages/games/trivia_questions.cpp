@@ -44,13 +44,16 @@ const QuestionFiles& TriviaQuestions() {
                 .sample = "Literature: Who wrote Hamlet?*shakespeare",
                 .fileFloor = "There must be a minimum of one Question File",
                 .fileConfirm = "Delete Question File?",
-                .addTitle = "Add Trivia Question",
-                .addLabels = {"Category", "Question", "Answer"},
-                .editTitle = "Edit Trivia Question",
-                .editLabels = {"Category", "Question", "Answer"},
-                .rowFloor = "There must be a minimum of one Question",
-                .rowConfirm = "Do you really want to delete this question?",
-                .rowConfirmTitle = "Delete Question?",
+                .rows =
+                    {
+                        .addTitle = "Add Trivia Question",
+                        .addLabels = {"Category", "Question", "Answer"},
+                        .editTitle = "Edit Trivia Question",
+                        .editLabels = {"Category", "Question", "Answer"},
+                        .rowFloor = "There must be a minimum of one Question",
+                        .rowConfirm = "Do you really want to delete this question?",
+                        .rowConfirmTitle = "Delete Question?",
+                    },
             },
     };
     return member;

@@ -1,7 +1,7 @@
 // Attacks, lines one user fires at another, and DoAction, a command word and the line it says:
 // two pages of one list each. Their prompts have always spoken of intros.
 
-#include "pages/useractions/string_lists.h"
+#include "families/lists/string_lists.h"
 #include "pages/useractions/useractions.h"
 
 namespace qb::pages {

@@ -2,7 +2,7 @@
 // word from each of three lists and a modern one from each of four. The three pages are one page
 // with one, three or four lists.
 
-#include "pages/useractions/string_lists.h"
+#include "families/lists/string_lists.h"
 #include "pages/useractions/useractions.h"
 
 namespace qb::pages {

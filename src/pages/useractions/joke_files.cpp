@@ -45,13 +45,16 @@ const QuestionFiles& JokeFiles() {
                 .fileFloor = "There must be a minimum of one Joke File",
                 .fileConfirm = "Delete Joke File?",
                 // The add dialog's field is "Joke", the edit dialog's "Jokes".
-                .addTitle = "Add Joke",
-                .addLabels = {"Joke"},
-                .editTitle = "Edit Trivia Joke",
-                .editLabels = {"Jokes"},
-                .rowFloor = "There must be a minimum of one Joke",
-                .rowConfirm = "Do you really want to delete this Joke?",
-                .rowConfirmTitle = "Delete Joke?",
+                .rows =
+                    {
+                        .addTitle = "Add Joke",
+                        .addLabels = {"Joke"},
+                        .editTitle = "Edit Trivia Joke",
+                        .editLabels = {"Jokes"},
+                        .rowFloor = "There must be a minimum of one Joke",
+                        .rowConfirm = "Do you really want to delete this Joke?",
+                        .rowConfirmTitle = "Delete Joke?",
+                    },
             },
     };
     return member;

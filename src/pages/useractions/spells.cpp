@@ -3,7 +3,7 @@
 // a file of its own, and a settings page; only spells have wards, users no spell can touch. A
 // book may be large, so a spell's phrases are read only when the user amends it.
 
-#include "pages/useractions/string_lists.h"
+#include "families/lists/string_lists.h"
 #include "pages/useractions/useractions.h"
 #include "shell/page_frame.h"
 #include "shell/table_lists.h"

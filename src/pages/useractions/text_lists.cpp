@@ -2,7 +2,7 @@
 // or at intervals. Each keeps the same three settings and a list of strings, and differs only in
 // its words, its default delay and the sample a new list holds.
 
-#include "pages/useractions/string_lists.h"
+#include "families/lists/string_lists.h"
 #include "pages/useractions/useractions.h"
 
 namespace qb::pages {

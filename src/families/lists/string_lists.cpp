@@ -1,4 +1,4 @@
-#include "pages/useractions/string_lists.h"
+#include "families/lists/string_lists.h"
 
 #include <algorithm>
 #include <map>
@@ -56,6 +56,7 @@ shell::RowEditorDecl ListEditor(const StringList& list) {
             .confirmDelete = list.words.confirm,
             .floor = list.floor,
             .floorPrompt = list.words.floor,
+            .refuseDuplicate = list.refuseDuplicate,
             .trimValues = list.trimValues,
             .selectFirstAfterDelete = list.selectFirstAfterDelete,
             .deleteKey = list.deleteKey};

@@ -6,6 +6,7 @@
 // does to them and in the sample a new file holds; a list is one row of data saying so, and the
 // controls, the field and the editor of every list come from here.
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,8 @@ struct StringList {
     bool selectFirstAfterDelete = false;
     bool trimValues = false;  // the edit dialog shows the row's values without their blanks
     bool deleteKey = false;   // the Delete key on the list deletes the row
+    // A row added with the text of one the list holds, letter case aside, is refused so.
+    std::optional<shell::Prompt> refuseDuplicate{};
 };
 
 // The field a list is bound to.
