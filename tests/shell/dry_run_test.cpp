@@ -210,7 +210,7 @@ TEST_F(DryRun, AfterANewVersionShowsHandEditsMergedAndLineEndsMended) {
     ExpectPreviewIsTheRebuild(SettingsChange::Version);
 }
 
-TEST_F(DryRun, WithNothingDueListsEveryFileAsLeftAndStillWritesNothing) {
+TEST_F(DryRun, WithNothingDueShowsNoDiffAndWritesNothing) {
     ASSERT_EQ(Start(), StartResult::Ready);
     const auto before = Snapshot(hub.Root());
     std::optional<SettingsChange> change;
