@@ -26,14 +26,34 @@ std::optional<shell::Answer> AskOnTerminal(const shell::Message& message) {
     return std::nullopt;
 }
 
+// The start without writing: what it would make, create and change, with the diffs.
+int DryRun(Session& session, const store::BuilderRegistry& builders) {
+    store::ChangeRecord record;
+    const auto change = shell::RecordStart(session.container, builders, record);
+    if (!change) {
+        std::cout << "No rebuild is due: the settings match this version and the hub's profiles.\n";
+    } else {
+        std::cout << (*change == shell::SettingsChange::Version
+                          ? "A rebuild is due: a new version.\n"
+                          : "A rebuild is due: the hub has new "
+                            "profiles.\n");
+    }
+    std::cout << shell::DescribeRecord(session.container, record);
+    std::cout << "Dry run: nothing was written.\n";
+    return 0;
+}
+
 }  // namespace
 
 int StartCommand(Session& session, const Arguments& arguments) {
-    if (arguments.size() > 1 ||
-        (arguments.size() == 1 && arguments[0] != "--yes" && arguments[0] != "--no")) {
-        std::cerr << "usage: quillbook-cli start [--yes|--no]\n";
+    if (arguments.size() > 1 || (arguments.size() == 1 && arguments[0] != "--yes" &&
+                                 arguments[0] != "--no" && arguments[0] != "--dry-run")) {
+        std::cerr << "usage: quillbook-cli start [--yes|--no|--dry-run]\n";
         return 2;
     }
+    store::BuilderRegistry builders;
+    pages::RegisterAllBuilders(builders);
+    if (arguments.size() == 1 && arguments[0] == "--dry-run") return DryRun(session, builders);
     const bool onTerminal = arguments.empty() && ::isatty(STDIN_FILENO) == 1;
     if (!arguments.empty()) {
         const shell::Answer standing =
@@ -43,8 +63,6 @@ int StartCommand(Session& session, const Arguments& arguments) {
         session.host.answerUnqueued = AskOnTerminal;
     }
 
-    store::BuilderRegistry builders;
-    pages::RegisterAllBuilders(builders);
     try {
         if (shell::RunStartChecks(session.container, builders) == shell::StartResult::Cancelled) {
             return 3;

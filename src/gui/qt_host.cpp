@@ -1,10 +1,16 @@
 #include "gui/qt_host.h"
 
 #include <QDesktopServices>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFontDatabase>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QUrl>
+#include <QVBoxLayout>
 #include <stdexcept>
 
 #include "gui/edit_dialog_view.h"
@@ -28,6 +34,25 @@ QMessageBox::Icon ToQt(shell::Icon icon) {
             break;
     }
     return QMessageBox::NoIcon;
+}
+
+// The list and diffs of what a rebuild would write, over the question that asks for it.
+void ShowChanges(QWidget* parent, const std::string& report) {
+    QDialog dialog(parent);
+    dialog.setObjectName(QStringLiteral("dlgChanges"));
+    dialog.setWindowTitle(QStringLiteral("What The Rebuild Would Write"));
+    auto* text = new QPlainTextEdit(QString::fromStdString(report), &dialog);
+    text->setObjectName(QStringLiteral("txtChanges"));
+    text->setReadOnly(true);
+    text->setLineWrapMode(QPlainTextEdit::NoWrap);
+    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    auto* layout = new QVBoxLayout(&dialog);
+    layout->addWidget(text);
+    layout->addWidget(buttons);
+    dialog.resize(900, 600);
+    dialog.exec();
 }
 
 }  // namespace
@@ -67,6 +92,15 @@ shell::Answer QtHost::ShowMessage(const shell::Message& message) {
         case shell::Buttons::YesNo:
             box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
             break;
+    }
+    if (message.showChanges) {
+        QPushButton* show = box.addButton(QStringLiteral("Show changes"), QMessageBox::ActionRole);
+        show->setObjectName(QStringLiteral("cmdShowChanges"));
+        // Every button of a message box closes it; this one shows the list over the box and
+        // leaves the question open, so its own click replaces the box's.
+        show->disconnect();
+        QObject::connect(show, &QPushButton::clicked, &box,
+                         [&box, &message] { ShowChanges(&box, message.showChanges()); });
     }
     switch (box.exec()) {
         case QMessageBox::Ok:

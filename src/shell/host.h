@@ -4,6 +4,7 @@
 // with real dialogs; the command line and the tests with a scripted host.
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,6 +20,9 @@ struct Message {
     std::string title;
     Buttons buttons = Buttons::OK;
     Icon icon = Icon::None;
+    // Where set, the box also offers "Show changes", which shows this text and leaves the
+    // question open: what the rebuild it asks about would write.
+    std::function<std::string()> showChanges{};
 };
 
 // The twelve edit dialogs differ only in their fields.

@@ -1,7 +1,32 @@
 #include "shell/startup.h"
 
+#include "store/change_report.h"
+#include "store/paths.h"
+
 namespace qb::shell {
 namespace {
+
+// Sends the files' writes to a record while it lives.
+class Recording {
+  public:
+    Recording(store::TableFiles& files, store::ChangeRecord& record) : files_(files) {
+        files_.RecordWrites(&record);
+    }
+    ~Recording() { files_.RecordWrites(nullptr); }
+    Recording(const Recording&) = delete;
+    Recording& operator=(const Recording&) = delete;
+
+  private:
+    store::TableFiles& files_;
+};
+
+// The folders the scripts share with other packs come first, and stay even when the user then
+// cancels the rebuild.
+void BuildSharedFolders(Container& container, const store::BuilderRegistry& builders) {
+    store::BuildRun shared{container.Files(), container.Profiles().LastNumber(),
+                           container.Version()};
+    builders.BuildArea(store::Area::SharedFolders, shared);
+}
 
 Message ChangePrompt(SettingsChange change) {
     if (change == SettingsChange::Version) {
@@ -45,44 +70,64 @@ void RebuildSettings(store::BuildRun& run, const store::BuilderRegistry& builder
         store::RenderTable(VersionSchema(), 0, [&](const store::Field&, int) { return version; }));
 }
 
-CheckResult CheckSettingsVersion(SettingsChange change, Container& container,
-                                 const store::BuilderRegistry& builders) {
-    store::TableFiles& files = container.Files();
-    if (change == SettingsChange::Version &&
-        files.ReadTableValue(VersionSchema().file, "sVersion", "") ==
-            store::VersionText(container.Version())) {
-        return CheckResult::NotRebuilt;
+std::optional<SettingsChange> DueRebuild(Container& container) {
+    if (container.Files().ReadTableValue(VersionSchema().file, "sVersion", "") !=
+        store::VersionText(container.Version())) {
+        return SettingsChange::Version;
     }
-    if (container.GetHost().ShowMessage(ChangePrompt(change)) != Answer::OK) {
-        return CheckResult::Cancelled;
+    if (container.Profiles().Count() > container.OldProfiles().Count()) {
+        return SettingsChange::Profiles;
     }
-    store::BuildRun run{.files = files,
+    return std::nullopt;
+}
+
+void ApplyRebuild(Container& container, const store::BuilderRegistry& builders) {
+    store::BuildRun run{.files = container.Files(),
                         .lastProfile = container.Profiles().LastNumber(),
                         .version = container.Version(),
                         .profileNames = container.Profiles().Names()};
     RebuildSettings(run, builders);
-    return CheckResult::Rebuilt;
+    if (!container.ProfileText().empty()) {
+        container.Files().WriteTextFile(kProfileCopySetting, container.ProfileText());
+    }
+}
+
+void RecordRebuild(Container& container, const store::BuilderRegistry& builders,
+                   store::ChangeRecord& record) {
+    Recording recording(container.Files(), record);
+    ApplyRebuild(container, builders);
 }
 
 StartResult RunStartChecks(Container& container, const store::BuilderRegistry& builders) {
     container.LoadProfiles();
-    // The shared folders come first and stay even when the user then cancels the rebuild.
-    store::BuildRun shared{container.Files(), container.Profiles().LastNumber(),
-                           container.Version()};
-    builders.BuildArea(store::Area::SharedFolders, shared);
-
-    CheckResult result = CheckSettingsVersion(SettingsChange::Version, container, builders);
-    if (result == CheckResult::NotRebuilt &&
-        container.Profiles().Count() > container.OldProfiles().Count()) {
-        result = CheckSettingsVersion(SettingsChange::Profiles, container, builders);
-    }
-    if (result == CheckResult::Cancelled) return StartResult::Cancelled;
-
-    // The copy is what the next start compares the hub's profiles with.
-    if (result == CheckResult::Rebuilt && !container.ProfileText().empty()) {
-        container.Files().WriteTextFile(kProfileCopySetting, container.ProfileText());
-    }
+    BuildSharedFolders(container, builders);
+    const std::optional<SettingsChange> change = DueRebuild(container);
+    if (!change) return StartResult::Ready;
+    Message question = ChangePrompt(*change);
+    question.showChanges = [&container, &builders] {
+        store::ChangeRecord record;
+        RecordRebuild(container, builders, record);
+        return DescribeRecord(container, record);
+    };
+    if (container.GetHost().ShowMessage(question) != Answer::OK) return StartResult::Cancelled;
+    ApplyRebuild(container, builders);
     return StartResult::Ready;
+}
+
+std::optional<SettingsChange> RecordStart(Container& container,
+                                          const store::BuilderRegistry& builders,
+                                          store::ChangeRecord& record) {
+    container.LoadProfiles();
+    Recording recording(container.Files(), record);
+    BuildSharedFolders(container, builders);
+    const std::optional<SettingsChange> change = DueRebuild(container);
+    if (change) ApplyRebuild(container, builders);
+    return change;
+}
+
+std::string DescribeRecord(Container& container, const store::ChangeRecord& record) {
+    const auto settings = store::ToNativePath(container.Files().SettingsFolder());
+    return store::DescribeChanges(record, settings ? *settings : std::filesystem::path());
 }
 
 }  // namespace qb::shell

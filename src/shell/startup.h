@@ -4,10 +4,12 @@
 // the hub's profile file. A settings tree that doesn't match the program's version or the hub's
 // profiles is never opened: the user rebuilds it or the program ends.
 
+#include <optional>
 #include <vector>
 
 #include "shell/container.h"
 #include "store/builders.h"
+#include "store/change_record.h"
 #include "store/schema.h"
 #include "store/settings_tree.h"
 
@@ -29,19 +31,35 @@ inline constexpr const char* kProfileCopySetting = "General\\PtokaX\\Profiles.xm
 void RebuildSettings(store::BuildRun& run, const store::BuilderRegistry& builders);
 
 enum class SettingsChange { Version, Profiles };
-enum class CheckResult { NotRebuilt, Rebuilt, Cancelled };
 
-// Asks before rebuilding: for a version change only when Version.tbl holds another version (a
-// missing file counts as one, so a fresh folder is built this way too), for a profile change
-// always. Cancelled means the program must end without opening anything.
-CheckResult CheckSettingsVersion(SettingsChange change, Container& container,
-                                 const store::BuilderRegistry& builders);
+// The change that asks for a rebuild at this start, if any: a version other than Version.tbl's (a
+// missing file counts, so a fresh folder is built this way too), or else more profiles in the hub
+// than in the copy. Fewer profiles, or as many with other names, rebuild nothing.
+std::optional<SettingsChange> DueRebuild(Container& container);
+
+// What OK at the rebuild question does: the rebuild, then the copy of the hub's profile file that
+// the next start compares the hub's profiles with.
+void ApplyRebuild(Container& container, const store::BuilderRegistry& builders);
+
+// ApplyRebuild with every write going to `record` instead of the disk: the same code, so what is
+// recorded is what the rebuild writes.
+void RecordRebuild(Container& container, const store::BuilderRegistry& builders,
+                   store::ChangeRecord& record);
 
 enum class StartResult { Ready, Cancelled };
 
-// The load up to the news: profiles, shared folders, the checks, the rebuild and the profile
-// copy. Only a profile count above the copy's asks: fewer profiles, or as many with other names,
-// rebuild nothing, and the copy is refreshed only by a rebuild.
+// The load up to the news: profiles, shared folders, the question and the rebuild where one is
+// due. Cancelled means the program must end without opening anything. The question offers the
+// list of what the rebuild would write (Message::showChanges).
 StartResult RunStartChecks(Container& container, const store::BuilderRegistry& builders);
+
+// RunStartChecks as a dry run: the same steps, nothing asked, every write recorded. Returns the
+// change that makes a rebuild due, if any.
+std::optional<SettingsChange> RecordStart(Container& container,
+                                          const store::BuilderRegistry& builders,
+                                          store::ChangeRecord& record);
+
+// The list and diffs of what a record holds, paths shown below the settings folder.
+std::string DescribeRecord(Container& container, const store::ChangeRecord& record);
 
 }  // namespace qb::shell

@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "store/change_record.h"
 #include "store/cp1252.h"
 #include "store/fatal_error.h"
 #include "store/line_reader.h"
@@ -62,6 +63,22 @@ void RemoveStaleTemporaries(const fs::path& target) {
             fs::remove(entry.path(), ec);
         }
     }
+}
+
+// The lines of a file: what the record holds for it, else the disk's.
+std::unique_ptr<LineReader> OpenFile(const ChangeRecord* record, const fs::path& native,
+                                     int& error) {
+    if (record != nullptr) {
+        if (const ChangeRecord::File* file = record->Find(native)) {
+            // A memory stream over the recorded bytes, read by the same reader as a file.
+            std::FILE* stream =
+                ::fmemopen(const_cast<char*>(file->bytes.data()), file->bytes.size(), "r");
+            if (stream != nullptr) return LineReader::Adopt(stream);
+            error = errno;
+            return nullptr;
+        }
+    }
+    return LineReader::Open(native, error);
 }
 
 mode_t DefaultFileMode() {
@@ -115,12 +132,25 @@ TableFiles::ReadScope::~ReadScope() {
 
 TableFiles::~TableFiles() = default;
 
+void TableFiles::RecordWrites(ChangeRecord* record) {
+    record_ = record;
+    lastCached_ = nullptr;
+    cache_.clear();
+    natives_.clear();
+}
+
+std::optional<fs::path> TableFiles::Native(std::string_view scriptPath) const {
+    auto native = ToNativePath(scriptPath);
+    if (native && record_ != nullptr) native = record_->Spell(*native);
+    return native;
+}
+
 std::string TableFiles::NativeOf(const std::string& path) {
     if (scopes_ > 0) {
         const auto known = natives_.find(path);
         if (known != natives_.end()) return known->second;
     }
-    const auto native = ToNativePath(path);
+    const auto native = Native(path);
     std::string result = native ? native->string() : std::string();
     if (scopes_ > 0) natives_.emplace(path, result);
     return result;
@@ -140,7 +170,7 @@ TableFiles::CachedFile* TableFiles::Cached(const std::string& path, bool whole) 
     if (!entry) entry = std::make_unique<CachedFile>();
     entry->lines.clear();
     int error = 0;
-    auto reader = native.empty() ? nullptr : LineReader::Open(native, error);
+    auto reader = native.empty() ? nullptr : OpenFile(record_, native, error);
     if (reader) {
         const size_t most = whole ? SIZE_MAX : static_cast<size_t>(kLineLimit);
         reader->ReadAll(entry->lines, most);
@@ -168,7 +198,7 @@ std::unique_ptr<LineSource> TableFiles::OpenLines(const std::string& path, int& 
         error = ENOENT;
         return nullptr;
     }
-    return LineReader::Open(native, error);
+    return OpenFile(record_, native, error);
 }
 
 std::string TableFiles::ReadTableValue(std::string_view file, std::string_view key,
@@ -258,19 +288,29 @@ std::string TableFiles::ReadTextFile(std::string_view file) {
 
 void TableFiles::WriteTextFile(std::string_view file, std::string_view text, bool inAppFolder) {
     const std::string path = Resolve(file, inAppFolder, true);
-    const auto native = ToNativePath(path);
+    const auto native = Native(path);
     if (!native) throw FatalError(path, "not a path on a drive");
     const std::string shown = native->string();
     if (slotStuck_) throw FatalError(shown, "the file slot is still held by an unfinished read");
     Forget(shown);
     std::error_code ec;
-    if (!fs::is_directory(native->parent_path(), ec)) throw FatalError(shown, Reason(ENOENT));
+    if (!fs::is_directory(native->parent_path(), ec) &&
+        (record_ == nullptr || !record_->HasFolder(native->parent_path()))) {
+        throw FatalError(shown, Reason(ENOENT));
+    }
     struct stat old {};
     const bool existed = ::stat(native->c_str(), &old) == 0;
     if (existed && S_ISDIR(old.st_mode)) throw FatalError(shown, Reason(EISDIR));
     // The scripts' home system refuses to replace a read-only file; renaming over it would not.
     if (existed && ((old.st_mode & 0222) == 0 || ::access(native->c_str(), W_OK) != 0)) {
         throw FatalError(shown, Reason(EACCES));
+    }
+    if (record_ != nullptr) {
+        std::string bytes;
+        bytes.reserve(text.size() + 2);
+        bytes.append(text).append("\r\n");
+        record_->Replace(*native, std::move(bytes));
+        return;
     }
 
     RemoveStaleTemporaries(*native);
@@ -307,20 +347,38 @@ void TableFiles::WriteTextFile(std::string_view file, std::string_view text, boo
 }
 
 bool TableFiles::FileExists(std::string_view path) const {
-    const auto native = ToNativePath(path);
+    const auto native = Native(path);
     std::error_code ec;
+    if (native && record_ != nullptr && record_->Find(*native) != nullptr) return true;
     return native && fs::is_regular_file(*native, ec);
 }
 
 bool TableFiles::FolderExists(std::string_view path) const {
-    const auto native = ToNativePath(path);
+    const auto native = Native(path);
     std::error_code ec;
+    if (native && record_ != nullptr && record_->HasFolder(*native)) return true;
     return native && fs::is_directory(*native, ec);
 }
 
 void TableFiles::CreateFolder(std::string_view path) {
-    const auto native = ToNativePath(path);
+    const auto native = Native(path);
     if (!native) throw FatalError(std::string(path), "not a path on a drive");
+    if (record_ != nullptr) {
+        // As mkdir would: a folder is made only inside one that is there, where no file is.
+        std::error_code ec;
+        if (fs::is_directory(*native, ec) || record_->HasFolder(*native)) return;
+        if (fs::exists(*native, ec) || record_->Find(*native) != nullptr) {
+            throw FatalError(native->string(), Reason(ENOTDIR));
+        }
+        if (!fs::is_directory(native->parent_path(), ec) &&
+            !record_->HasFolder(native->parent_path())) {
+            throw FatalError(native->string(), Reason(ENOENT));
+        }
+        record_->MakeFolder(*native);
+        lastCached_ = nullptr;
+        natives_.clear();
+        return;
+    }
     if (::mkdir(native->c_str(), 0777) != 0 && errno != EEXIST) {
         throw FatalError(native->string(), Reason(errno));
     }
@@ -332,12 +390,23 @@ void TableFiles::CreateFolder(std::string_view path) {
 
 std::vector<std::string> TableFiles::FolderFiles(std::string_view folder) const {
     std::vector<std::string> names;
-    const auto native = ToNativePath(folder);
+    const auto native = Native(folder);
+    if (!native) return names;
     std::error_code ec;
-    if (!native || !fs::is_directory(*native, ec)) return names;
-    for (const auto& entry : fs::directory_iterator(*native, ec)) {
-        if (!entry.is_regular_file(ec) || IsWriteTemporary(entry.path())) continue;
-        names.push_back(Utf8ToCp1252(entry.path().filename().string()));
+    if (fs::is_directory(*native, ec)) {
+        for (const auto& entry : fs::directory_iterator(*native, ec)) {
+            if (!entry.is_regular_file(ec) || IsWriteTemporary(entry.path())) continue;
+            names.push_back(Utf8ToCp1252(entry.path().filename().string()));
+        }
+    }
+    if (record_ != nullptr) {
+        for (std::string& name : record_->NamesIn(*native)) {
+            const std::string folded = FoldCase(name);
+            if (std::none_of(names.begin(), names.end(),
+                             [&](const std::string& n) { return FoldCase(n) == folded; })) {
+                names.push_back(std::move(name));
+            }
+        }
     }
     std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
         const std::string foldedA = FoldCase(a);
@@ -348,9 +417,10 @@ std::vector<std::string> TableFiles::FolderFiles(std::string_view folder) const 
 }
 
 bool TableFiles::DeleteFile(std::string_view path) {
-    const auto native = ToNativePath(path);
+    const auto native = Native(path);
     std::error_code ec;
     if (!native || !fs::is_regular_file(*native, ec)) return false;
+    if (record_ != nullptr) throw FatalError(native->string(), "a dry run deletes nothing");
     Forget(native->string());
     if (::unlink(native->c_str()) == 0) return true;
     if (errno == ENOENT) return false;  // gone between the look and the unlink

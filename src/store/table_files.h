@@ -3,7 +3,9 @@
 // is a line scanner with its own split and trim rules and its own way of failing; pages depend on
 // those differences (a missing file must read as empty), so each is kept exactly.
 
+#include <filesystem>
 #include <memory>
+#include <optional>
 #include <random>
 #include <string>
 #include <string_view>
@@ -22,6 +24,7 @@ struct TableRow {
 };
 
 class ValueIndex;
+class ChangeRecord;
 
 class TableFiles {
   public:
@@ -52,6 +55,12 @@ class TableFiles {
     // Without the index every read goes to the disk, scopes or not: the plain scanner the index
     // must agree with, which the tests and the benchmarks measure it against.
     void SetIndexing(bool indexing) { indexing_ = indexing; }
+
+    // From here on every write goes to `record` instead of the disk, and every read sees what the
+    // record holds over what the disk holds; null writes to the disk again. While a record is set
+    // nothing at all reaches the disk: no folder is made, no leftover temporary is cleared, and a
+    // delete is refused.
+    void RecordWrites(ChangeRecord* record);
 
     const std::string& ProgramFolder() const { return programFolder_; }
     std::string SettingsFolder() const;  // program folder, "\Vandrell's Quillbook\Settings"
@@ -124,9 +133,12 @@ class TableFiles {
     // The file as a scope keeps it; `whole` for the readers that go past line 5000.
     CachedFile* Cached(const std::string& path, bool whole = true);
     std::string NativeOf(const std::string& path);
+    // The Linux path of a script path, spelled as the record has it where it made the folder.
+    std::optional<std::filesystem::path> Native(std::string_view scriptPath) const;
     void Forget(const std::string& native);
 
     std::string programFolder_;
+    ChangeRecord* record_ = nullptr;
     bool slotStuck_ = false;
     std::minstd_rand random_;
     int scopes_ = 0;

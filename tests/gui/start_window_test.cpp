@@ -2,6 +2,9 @@
 
 #include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
 #include <QtTest>
 #include <filesystem>
 
@@ -95,7 +98,35 @@ class StartWindowTest : public QObject {
         QVERIFY(QApplication::activeModalWidget() == nullptr);
     }
 
+    void showChangesListsTheRebuildAndLeavesTheQuestionOpen() {
+        QString shown;
+        QTimer::singleShot(0, this, [this, &shown] { ShowChangesThenCancel(shown); });
+        QVERIFY(!StartBeforeWindow(*container_, builders_));
+        QVERIFY2(shown.contains(QStringLiteral("create       General\\Globals\\Version.tbl\n")),
+                 qPrintable(shown));
+        QVERIFY(shown.contains(QStringLiteral("+\tsVersion = \"5.3.0\",\n")));
+        // Only the answer to the question counts: Cancel, so the list wrote nothing.
+        QVERIFY(!fs::exists(hub_->Settings()));
+    }
+
   private:
+    // Opens the list from the question's box, notes it, closes it, and cancels the question.
+    void ShowChangesThenCancel(QString& shown) {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr) {
+            QTimer::singleShot(0, this, [this, &shown] { ShowChangesThenCancel(shown); });
+            return;
+        }
+        QTimer::singleShot(0, this, [&shown, box] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            QVERIFY(dialog != box);
+            shown = dialog->findChild<QPlainTextEdit*>(QStringLiteral("txtChanges"))->toPlainText();
+            dialog->close();
+            QTimer::singleShot(0, box, [box] { box->button(QMessageBox::Cancel)->click(); });
+        });
+        box->findChild<QPushButton*>(QStringLiteral("cmdShowChanges"))->click();
+    }
+
     // Clicks a button of the message box that is about to open, and notes its title and text.
     void AnswerNextBox(QMessageBox::StandardButton button) {
         seen_.clear();
