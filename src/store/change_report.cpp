@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <vector>
 
@@ -107,9 +106,14 @@ std::string Shown(const fs::path& path, const fs::path& base) {
 }
 
 bool ReadWhole(const fs::path& path, std::string& bytes) {
+    std::error_code ec;
+    const auto size = fs::file_size(path, ec);
+    if (ec) return false;
     std::ifstream in(path, std::ios::binary);
     if (!in) return false;
-    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    bytes.resize(size);
+    in.read(bytes.data(), static_cast<std::streamsize>(size));
+    bytes.resize(static_cast<size_t>(in.gcount()));
     return true;
 }
 
