@@ -20,7 +20,7 @@ struct MatrixHub : test::PageHarness {
         hub.Write("cfg/Profiles.xml", test::ProfilesXml(rows - 1));
         for (const char* folder : {"Communication/Talk", "TheVellum/Arcade"})
             std::filesystem::create_directories(hub.Settings() / folder);
-        store::BuildRun run{files, rows - 2};
+        store::BuildRun run{files, rows - 2, store::kBuildVersion};
         pages::BuildPairMatrix(pages::TalkMatrix(), run);
         container.LoadProfiles();
     }
@@ -69,7 +69,7 @@ void TalkBuild(benchmark::State& state, bool indexing) {
     MatrixHub hub(rows);
     hub.files.SetIndexing(indexing);
     for (auto _ : state) {
-        store::BuildRun run{hub.files, rows - 2};
+        store::BuildRun run{hub.files, rows - 2, store::kBuildVersion};
         pages::BuildPairMatrix(pages::TalkMatrix(), run);
     }
     state.counters["profiles"] = rows;

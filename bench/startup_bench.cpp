@@ -31,7 +31,7 @@ void Build(const test::TempHub& hub) {
     shell::PageRegistry registry;
     store::BuilderRegistry builders;
     pages::RegisterAllBuilders(builders);
-    shell::Container container(files, host, registry);
+    shell::Container container(files, host, registry, store::kBuildVersion);
     shell::RunStartChecks(container, builders);
 }
 

@@ -140,7 +140,7 @@ void Driver::MenuClick(const std::string& name) {
         return;
     }
     if (name == "mnuHelpAbout") {
-        const auto about = shell::AboutBox();
+        const auto about = shell::AboutBox(container_.Version());
         out_ << "about: " << store::Cp1252ToUtf8(about.caption) << ": "
              << store::Cp1252ToUtf8(about.version) << "\n";
         return;

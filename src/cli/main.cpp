@@ -11,6 +11,7 @@
 #include "pages/pages.h"
 #include "shell/container.h"
 #include "shell/scripted_host.h"
+#include "store/edition.h"
 #include "store/fatal_error.h"
 #include "store/paths.h"
 #include "store/table_files.h"
@@ -21,7 +22,8 @@ namespace fs = std::filesystem;
 using namespace qb;
 
 int Usage() {
-    std::cerr << "usage: quillbook-cli [--scripts DIR] COMMAND\ncommands:\n";
+    std::cerr << "usage: quillbook-cli [--scripts DIR] [--program-version X.Y.Z] COMMAND\n"
+                 "commands:\n";
     for (const auto& command : cli::Commands())
         std::cerr << "  " << command.usage << "\n";
     return 2;
@@ -29,10 +31,21 @@ int Usage() {
 
 int Run(int argc, char** argv) {
     fs::path scripts = fs::current_path();
+    // The run behaves as a build of this version; it is read here once and handed down.
+    store::ProgramVersion version = store::kBuildVersion;
     std::vector<std::string> words;
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--scripts") == 0 && i + 1 < argc) {
             scripts = argv[++i];
+        } else if (std::strcmp(argv[i], "--program-version") == 0) {
+            if (i + 1 == argc) return Usage();
+            const auto parsed = store::ParseVersion(argv[++i]);
+            if (!parsed) {
+                std::cerr << "quillbook-cli: --program-version " << argv[i]
+                          << ": not three numbers joined by \".\" (as 6.0.0)\n";
+                return 2;
+            }
+            version = *parsed;
         } else {
             words.emplace_back(argv[i]);
         }
@@ -49,7 +62,7 @@ int Run(int argc, char** argv) {
             return std::make_unique<hublink::RecordingSessions>(values, std::cout);
         };
         pages::RegisterAllPages(registry, services);
-        shell::Container container(files, host, registry);
+        shell::Container container(files, host, registry, version);
         cli::Session session{files, host, container};
         return command.run(session, {words.begin() + 1, words.end()});
     }

@@ -250,7 +250,7 @@ std::string ContainerJson(const shell::Container& container) {
     std::string out;
     {
         JsonObject json(out);
-        json.Text("caption", shell::Container::WindowCaption());
+        json.Text("caption", container.WindowCaption());
         json.Bool("sidebar", container.SideBarVisible());
         json.Text("selected", container.SelectedNode());
         Array(json.Key("expanded"), container.ExpandedNodes(),

@@ -146,7 +146,7 @@ int PortalCommand(Session& session, const Arguments& arguments) {
     shell::PageRegistry registry;
     pages::RegisterAllPages(registry, services);
     PrintingHost host;
-    shell::Container container(session.files, host, registry);
+    shell::Container container(session.files, host, registry, session.container.Version());
     container.LoadProfiles();
     shell::Page* page = container.Open("Communication~Portal");
     auto& hubs = static_cast<shell::ListControl&>(*page->Find("lvwHubs"));

@@ -19,9 +19,9 @@ pages::PageServices DesktopServices() {
 
 }  // namespace
 
-Application::Application(const std::filesystem::path& scripts)
+Application::Application(const std::filesystem::path& scripts, store::ProgramVersion version)
     : files_(store::ToScriptPath(std::filesystem::absolute(scripts).lexically_normal())),
-      container_(files_, host_, registry_) {
+      container_(files_, host_, registry_, version) {
     pages::RegisterAllPages(registry_, DesktopServices());
     pages::RegisterAllBuilders(builders_);
     host_.openTextEditor = [this](const std::string& file, const std::string& mode) {

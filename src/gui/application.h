@@ -16,7 +16,8 @@ class MainWindow;
 
 class Application {
   public:
-    explicit Application(const std::filesystem::path& scripts);
+    // `version` is the one the run behaves as: the build's, or the one the command line names.
+    Application(const std::filesystem::path& scripts, store::ProgramVersion version);
     ~Application();
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;

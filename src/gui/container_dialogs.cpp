@@ -70,8 +70,8 @@ void WindowsDialog::Choose() {
 
 // ---- About -----------------------------------------------------------------------------------
 
-AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent) {
-    const shell::AboutText about = shell::AboutBox();
+AboutDialog::AboutDialog(store::ProgramVersion version, QWidget* parent) : QDialog(parent) {
+    const shell::AboutText about = shell::AboutBox(version);
     setObjectName(QStringLiteral("frmHelpAbout"));
     setWindowTitle(ToQt(about.caption));
 

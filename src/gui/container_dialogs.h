@@ -27,7 +27,8 @@ class WindowsDialog : public QDialog {
 class AboutDialog : public QDialog {
     Q_OBJECT
   public:
-    explicit AboutDialog(QWidget* parent = nullptr);
+    // The version the run behaves as stands in the box.
+    explicit AboutDialog(store::ProgramVersion version, QWidget* parent = nullptr);
 };
 
 // The details of this system: the output of `command`, the text of `file`, the Qt version and

@@ -109,7 +109,7 @@ void PageWindow::closeEvent(QCloseEvent* event) {
 
 MainWindow::MainWindow(shell::Container& container) : container_(container), area_(new QMdiArea) {
     setObjectName(QStringLiteral("frmContainer"));
-    setWindowTitle(ToQt(shell::Container::WindowCaption()));
+    setWindowTitle(ToQt(container.WindowCaption()));
     setWindowIcon(WindowIcon());
     area_->setObjectName(QStringLiteral("mdiArea"));
     area_->setBackground(QColor(0x8c, 0x9a, 0xa6));
@@ -416,7 +416,7 @@ void MainWindow::ShowAllWindows() {
 }
 
 void MainWindow::ShowAbout() {
-    AboutDialog dialog(this);
+    AboutDialog dialog(container_.Version(), this);
     dialog.exec();
 }
 

@@ -30,6 +30,7 @@ void RegisterAllBuilders(store::BuilderRegistry& builders) {
     RegisterGameBuilders(builders);
     RegisterSecurityBuilders(builders);
     RegisterUserActionBuilders(builders);
+    RegisterArchiveBuilders(builders);
 }
 
 }  // namespace qb::pages

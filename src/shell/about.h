@@ -15,9 +15,9 @@ struct AboutText {
     std::string disclaimer;   // lblDisclaimer
 };
 
-inline AboutText AboutBox() {
+inline AboutText AboutBox(store::ProgramVersion version) {
     const std::string edition(store::kEdition);
-    return {"About " + edition, "Vandrell's " + edition, "Version " + store::VersionText(),
+    return {"About " + edition, "Vandrell's " + edition, "Version " + store::VersionText(version),
             edition +
                 " is an All-in-One bot for use with the PtokaX hubsoft. Supplying both Security "
                 "functions and Games",

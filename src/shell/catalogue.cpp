@@ -350,7 +350,8 @@ bool IsFunctionKey(std::string_view key) {
 }
 
 bool IsCatalogueKey(std::string_view key) {
-    static const Catalogue everything = Build({store::kEdition, store::kVersion, true, true});
+    // The whole catalogue asks no edition test, so no version decides anything here.
+    static const Catalogue everything = Build({store::kEdition, {}, true, true});
     return IsFunctionKey(key) || everything.Find(key) != nullptr;
 }
 

@@ -42,8 +42,8 @@ struct Catalogue {
 // The tree and the group menus as the edition has them. The portal node is there only when a
 // hand-made `bPortal = 1` stands in General\Globals\Switches.tbl: no writer puts it there, so the
 // portal stays hidden until its owner asks for it.
-Catalogue BuildCatalogue(store::TableFiles& files, std::string_view edition = store::kEdition,
-                         store::ProgramVersion version = store::kVersion);
+Catalogue BuildCatalogue(store::TableFiles& files, std::string_view edition,
+                         store::ProgramVersion version);
 
 // The keys that have a page, in the order OpenFunctionPage tries them. Group and intermediate
 // nodes are not among them, nor the archive RightClicks keys other than Hyperlink's; the e-mail

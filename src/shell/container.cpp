@@ -8,8 +8,13 @@
 
 namespace qb::shell {
 
-Container::Container(store::TableFiles& files, Host& host, const PageRegistry& registry)
-    : files_(files), host_(host), registry_(registry), context_{files_, profiles_, host_} {
+Container::Container(store::TableFiles& files, Host& host, const PageRegistry& registry,
+                     store::ProgramVersion version)
+    : files_(files),
+      host_(host),
+      registry_(registry),
+      version_(version),
+      context_{files_, profiles_, host_, version_} {
     windowsMenu_ = BuildWindowsMenu(openWindows_);
     tlbMDITop.onButtonClick = [this](const std::string& key) {
         if (key == "TREEVIEW") {
@@ -41,8 +46,8 @@ Container::Container(store::TableFiles& files, Host& host, const PageRegistry& r
 
 Container::~Container() = default;
 
-std::string Container::WindowCaption() {
-    return "Vandrell's " + std::string(store::kEdition) + " " + store::VersionText();
+std::string Container::WindowCaption() const {
+    return "Vandrell's " + std::string(store::kEdition) + " " + store::VersionText(version_);
 }
 
 void Container::LoadProfiles() {
@@ -71,7 +76,7 @@ void Container::FillNavigation() {
     tlbSidebar.AddButton("EXPAND", "Expand Nodes", "EXPAND");
     tlbSidebar.AddButton("CLOSE", "Close Nodes", "CLOSE");
 
-    catalogue_ = BuildCatalogue(files_);
+    catalogue_ = BuildCatalogue(files_, store::kEdition, version_);
     for (const auto& group : catalogue_.groups) {
         const CatalogueNode* node = catalogue_.Find(group.key);
         tlbMDITop.AddButton(group.key, node != nullptr ? node->text : group.key, group.key);
@@ -304,7 +309,7 @@ void Container::ClickStatusPanel(int index) {
     if (stsContainer.Panel(index).key != "CURRENT") return;
     // The panel once offered a download of a newer version; the text stays, the download went.
     const std::string installed = files_.ReadTableValue(kVersionFile, "sVersion", "", false);
-    if (installed != store::VersionText()) {
+    if (installed != store::VersionText(version_)) {
         host_.ShowMessage({"Click to download new version", "Click to download new version",
                            Buttons::OK, Icon::None});
     }

@@ -29,15 +29,21 @@ inline constexpr PageSize kContainerMinimum{11790, 9060};
 
 class Container {
   public:
-    Container(store::TableFiles& files, Host& host, const PageRegistry& registry);
+    // `version` is the one the run behaves as: the build's, or the one the command line names.
+    Container(store::TableFiles& files, Host& host, const PageRegistry& registry,
+              store::ProgramVersion version);
     ~Container();
 
     store::TableFiles& Files() { return files_; }
     Host& GetHost() { return host_; }
     const PageRegistry& Registry() const { return registry_; }
 
+    // The version the run behaves as: the stamp a rebuild writes and the start compares, the
+    // captions, and which areas the edition has.
+    store::ProgramVersion Version() const { return version_; }
+
     // "Vandrell's Quillbook 5.3.0".
-    static std::string WindowCaption();
+    std::string WindowCaption() const;
 
     // lvwProfiles from the hub's cfg\Profiles.xml and lvwOldProfiles from the copy kept at the
     // last rebuild, each behind its Unregistered row.
@@ -140,6 +146,7 @@ class Container {
     store::TableFiles& files_;
     Host& host_;
     const PageRegistry& registry_;
+    store::ProgramVersion version_;
     store::ProfileList profiles_;
     store::ProfileList oldProfiles_;
     std::string profileText_;

@@ -27,6 +27,7 @@ struct PageContext {
     store::TableFiles& files;
     const store::ProfileList& profiles;  // the main window's lvwProfiles
     Host& host;
+    store::ProgramVersion version;  // the version the run behaves as
 };
 
 class Page {

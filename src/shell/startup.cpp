@@ -42,7 +42,8 @@ void BackUpTree(Container& container) {
 }
 
 void BuildSharedFolders(Container& container, const store::BuilderRegistry& builders) {
-    store::BuildRun shared{container.Files(), container.Profiles().LastNumber()};
+    store::BuildRun shared{container.Files(), container.Profiles().LastNumber(),
+                           container.Version()};
     builders.BuildArea(store::Area::SharedFolders, shared);
 }
 
@@ -71,7 +72,8 @@ const store::FileSchema& VersionSchema() {
     static const store::FileSchema schema{
         "General\\Globals\\Version.tbl",
         "tVersion",
-        {{store::FieldKind::String, "sVersion", store::VersionText()}},
+        // No default: the stamp is always the version the run behaves as.
+        {{store::FieldKind::String, "sVersion", ""}},
     };
     return schema;
 }
@@ -89,7 +91,7 @@ void RebuildSettings(store::BuildRun& run, const store::BuilderRegistry& builder
 
 std::optional<SettingsChange> DueRebuild(Container& container) {
     if (container.Files().ReadTableValue(VersionSchema().file, "sVersion", "") !=
-        store::VersionText()) {
+        store::VersionText(container.Version())) {
         return SettingsChange::Version;
     }
     if (container.Profiles().Count() > container.OldProfiles().Count()) {
@@ -101,6 +103,7 @@ std::optional<SettingsChange> DueRebuild(Container& container) {
 void ApplyRebuild(Container& container, const store::BuilderRegistry& builders) {
     store::BuildRun run{.files = container.Files(),
                         .lastProfile = container.Profiles().LastNumber(),
+                        .version = container.Version(),
                         .profileNames = container.Profiles().Names()};
     RebuildSettings(run, builders);
     if (!container.ProfileText().empty()) {

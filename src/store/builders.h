@@ -21,8 +21,9 @@ namespace qb::store {
 struct BuildRun {
     TableFiles& files;
     int lastProfile;  // per-profile rows are written for the numbers -1 to this one
+    // The version the run behaves as: it decides, with the edition, which areas are built.
+    ProgramVersion version;
     std::string_view edition = kEdition;
-    ProgramVersion version = kVersion;
     // The hub's profiles by row, Unregistered first, for the defaults that follow a profile's
     // name; a run that leaves them out gives every profile an empty name.
     std::vector<std::string> profileNames{};

@@ -306,7 +306,7 @@ class ContainerWindowTest : public QObject {
     }
 
     void theAboutBoxAndItsSystemInformation() {
-        AboutDialog about(&harness_->Window());
+        AboutDialog about(harness_->Container().Version(), &harness_->Window());
         QCOMPARE(about.windowTitle(), QStringLiteral("About Quillbook"));
         QCOMPARE(about.findChild<QLabel*>("lblVersion")->text(), QStringLiteral("Version 5.3.0"));
         QVERIFY(about.findChild<QLabel*>("lblDescription")

@@ -31,7 +31,8 @@ class StartWindowTest : public QObject {
         hub_->Write("cfg/Profiles.xml", "<Name>Master</Name>\n");
         files_ = std::make_unique<store::TableFiles>(hub_->ProgramFolder());
         pages::RegisterAllBuilders(builders_);
-        container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
+        container_ =
+            std::make_unique<shell::Container>(*files_, host_, registry_, store::kBuildVersion);
     }
 
     void cleanup() {
@@ -58,6 +59,22 @@ class StartWindowTest : public QObject {
                  QStringLiteral("tVersion = {\r\n\tsVersion = \"5.3.0\",\r\n}\r\n"));
         QVERIFY(
             fs::exists(hub_->Settings() / "Security" / "CommandSpy" / "CommandSpySettings.tbl"));
+    }
+
+    // The version the program runs as, not the build's, is the one the window shows and the
+    // rebuild stamps; as 6.0.0 the tree has the archive.
+    void aRunAsAnotherVersionShowsAndStampsThatVersion() {
+        container_ = std::make_unique<shell::Container>(*files_, host_, registry_,
+                                                        store::ProgramVersion{6, 0, 0});
+        container_->FillNavigation();
+        AnswerNextBox(QMessageBox::Ok);
+        QVERIFY(StartBeforeWindow(*container_, builders_));
+        MainWindow window(*container_);
+        window.show();
+        QCOMPARE(window.windowTitle(), QStringLiteral("Vandrell's Quillbook 6.0.0"));
+        QCOMPARE(window.StatusPanel(1)->text(), QStringLiteral("Installed Version = 6.0.0"));
+        QVERIFY(fs::is_directory(hub_->Settings() / "TheVellum" / "Hyperlink"));
+        QVERIFY(container_->Navigation().Find("Hyperlink~LinkOfTheWeek") != nullptr);
     }
 
     void theWindowOpensWithTheVersionAndTheLastArticleInItsStatusBar() {

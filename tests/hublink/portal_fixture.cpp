@@ -31,7 +31,7 @@ PortalFixture::PortalFixture() : files_(folder.ProgramFolder()), host_(transcrip
         return sessions;
     };
     pages::RegisterAllPages(registry_, services);
-    container_ = std::make_unique<shell::Container>(files_, host_, registry_);
+    container_ = std::make_unique<shell::Container>(files_, host_, registry_, store::kBuildVersion);
 }
 
 PortalFixture::~PortalFixture() {

@@ -31,7 +31,7 @@ class ClientCheckerRebuild : public ::testing::Test {
   protected:
     ClientCheckerRebuild() { RegisterAllBuilders(builders); }
     void Rebuild(int lastProfile) {
-        store::BuildRun run{files, lastProfile};
+        store::BuildRun run{files, lastProfile, store::kBuildVersion};
         builders.BuildArea(store::Area::Security, run);
     }
     test::TempHub hub;

@@ -311,7 +311,9 @@ class GamePages : public ::testing::Test, protected test::PageHarness {
         container.LoadProfiles();
         store::BuilderRegistry builders;
         RegisterAllBuilders(builders);
-        store::BuildRun run{.files = files, .lastProfile = container.Profiles().LastNumber()};
+        store::BuildRun run{.files = files,
+                            .lastProfile = container.Profiles().LastNumber(),
+                            .version = store::kBuildVersion};
         builders.BuildArea(store::Area::Games, run);
     }
 };

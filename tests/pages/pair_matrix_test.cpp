@@ -31,7 +31,7 @@ class PairMatrices : public ::testing::Test, protected test::PageHarness {
     }
 
     std::string Build(const PairMatrix& matrix, int lastProfile, bool indexing = true) {
-        store::BuildRun run{files, lastProfile};
+        store::BuildRun run{files, lastProfile, store::kBuildVersion};
         files.SetIndexing(indexing);
         BuildPairMatrix(matrix, run);
         return hub.ReadSetting(Slashed(matrix.commands.front().file.file));

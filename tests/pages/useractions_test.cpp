@@ -24,7 +24,7 @@ class UserActionsRebuild : public ::testing::Test {
   protected:
     UserActionsRebuild() { RegisterAllBuilders(builders); }
     void Rebuild(int lastProfile) {
-        store::BuildRun run{files, lastProfile};
+        store::BuildRun run{files, lastProfile, store::kBuildVersion};
         builders.BuildArea(store::Area::UserActions, run);
     }
     std::map<std::string, std::string> Tree() const { return hub.SettingsTree("UserActions"); }

@@ -15,7 +15,7 @@ namespace {
 class CatalogueTest : public ::testing::Test {
   protected:
     Catalogue Build(std::string_view edition = store::kEdition,
-                    store::ProgramVersion version = store::kVersion) {
+                    store::ProgramVersion version = store::kBuildVersion) {
         store::TableFiles files(hub_.ProgramFolder());
         return BuildCatalogue(files, edition, version);
     }

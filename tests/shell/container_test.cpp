@@ -22,7 +22,7 @@ class ContainerTest : public ::testing::Test {
 
     void Start(const std::vector<test::StubPageDesc>& pages) {
         test::RegisterStubPages(registry_, pages, calls_);
-        container_ = std::make_unique<Container>(files_, host_, registry_);
+        container_ = std::make_unique<Container>(files_, host_, registry_, store::kBuildVersion);
         container_->LoadProfiles();
         container_->FillNavigation();
     }

@@ -99,7 +99,7 @@ class DeclaredPage : public ::testing::Test {
     std::ostringstream transcript;
     ScriptedHost host{transcript};
     store::ProfileList profiles;
-    PageContext context{files, profiles, host};
+    PageContext context{files, profiles, host, store::kBuildVersion};
     std::unique_ptr<Page> page;
 };
 

@@ -143,13 +143,13 @@ class DryRun : public ::testing::Test {
     }
 
     StartResult Start() {
-        Container container(files, host, registry);
+        Container container(files, host, registry, store::kBuildVersion);
         host.QueueAnswer(Answer::OK);
         return RunStartChecks(container, builders);
     }
 
     std::string Preview(std::optional<SettingsChange>& change) {
-        Container container(files, host, registry);
+        Container container(files, host, registry, store::kBuildVersion);
         store::ChangeRecord record;
         change = RecordStart(container, builders, record);
         return DescribeRecord(container, record);

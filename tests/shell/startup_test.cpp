@@ -9,6 +9,7 @@
 
 #include "pages/general/news.h"
 #include "pages/pages.h"
+#include "shell/about.h"
 #include "shell/scripted_host.h"
 #include "shell/startup.h"
 #include "store/backups.h"
@@ -34,8 +35,8 @@ class StartUp : public ::testing::Test {
     }
 
     // A start as the main window makes it, answering the one prompt with OK.
-    StartResult Start() {
-        Container container(files, host, registry);
+    StartResult Start(store::ProgramVersion version = store::kBuildVersion) {
+        Container container(files, host, registry, version);
         host.QueueAnswer(Answer::OK);
         const StartResult result = RunStartChecks(container, builders);
         if (result == StartResult::Ready) pages::LoadNews(files, container.News(), nullptr);
@@ -95,6 +96,89 @@ TEST_F(StartUp, ARebuildStoppedHalfWayAsksAgainAtTheNextStart) {
     EXPECT_EQ(hub.ReadSetting("General/Globals/Version.tbl"),
               Crlf({"tVersion = {", "\tsVersion = \"5.3.0\",", "}"}));
     EXPECT_EQ(Prompts(), 2);
+}
+
+// One hub started as 5.3.0, 6.0.0, 5.3.0 and 6.0.0: each switch is a version change that asks
+// and merges; the archive's folders, nodes and bots come and go with the version, its files stay
+// as they are at 5.3.0 and keep their values through the next rebuild as 6.0.0.
+TEST_F(StartUp, SwitchingTheVersionEitherWayRebuildsAndTheArchiveFollowsTheMajor) {
+    constexpr store::ProgramVersion kFive{5, 3, 0};
+    constexpr store::ProgramVersion kSix{6, 0, 0};
+    const std::string newItems = "TheVellum/Hyperlink/HyperlinkNewItems.tbl";
+    const auto archive = [&] {
+        return fs::exists(hub.Settings() / "TheVellum") ? hub.SettingsTree("TheVellum")
+                                                        : std::map<std::string, std::string>{};
+    };
+    struct Seen {
+        std::string prompt;
+        bool archiveNodes;
+        size_t botRows;
+        std::string caption;
+        std::string about;
+        std::string stamp;
+    };
+    const auto start = [&](store::ProgramVersion version) {
+        transcript.str("");
+        Container container(files, host, registry, version);
+        container.FillNavigation();
+        host.QueueAnswer(Answer::OK);
+        EXPECT_EQ(RunStartChecks(container, builders), StartResult::Ready);
+        Seen seen{transcript.str(),
+                  container.Navigation().Find("Hyperlink") != nullptr,
+                  0,
+                  container.WindowCaption(),
+                  AboutBox(version).version,
+                  files.ReadTableValue("General\\Globals\\Version.tbl", "sVersion", "")};
+        Page* bots = container.Open("General~Bots");
+        seen.botRows =
+            static_cast<size_t>(static_cast<const ListControl*>(bots->Find("lvwBots"))->Count());
+        return seen;
+    };
+    const std::string asked =
+        "message: Vandrell's Quillbook: Version Change Detected: New version detected. Settings "
+        "must be rebuilt; continue? -> OK\n";
+
+    const Seen five = start(kFive);
+    EXPECT_EQ(five.prompt, asked);
+    EXPECT_FALSE(fs::exists(hub.Settings() / "TheVellum"));
+    EXPECT_FALSE(five.archiveNodes);
+    EXPECT_EQ(five.caption, "Vandrell's Quillbook 5.3.0");
+    EXPECT_EQ(five.about, "Version 5.3.0");
+    EXPECT_EQ(five.stamp, "5.3.0");
+
+    const Seen six = start(kSix);
+    EXPECT_EQ(six.prompt, asked);
+    EXPECT_TRUE(six.archiveNodes);
+    EXPECT_EQ(six.botRows, five.botRows + 6);
+    EXPECT_EQ(six.caption, "Vandrell's Quillbook 6.0.0");
+    EXPECT_EQ(six.about, "Version 6.0.0");
+    EXPECT_EQ(six.stamp, "6.0.0");
+    for (const char* kind : {"Bookshelf", "DVDRack", "Jukebox", "Songbook", "Arcade", "Hyperlink"})
+        EXPECT_TRUE(fs::is_directory(hub.Settings() / "TheVellum" / kind)) << kind;
+    // A hand-set value of the archive, out of the spin's range.
+    hub.WriteSetting(newItems,
+                     "tHyperlinkNewItems = {\r\n\tbEnableNewItems = 0,\r\n"
+                     "\tiNumberOfNewItems = 99,\r\n}\r\n");
+    const auto archiveAtSix = archive();
+
+    const Seen back = start(kFive);
+    EXPECT_EQ(back.prompt, asked);
+    EXPECT_FALSE(back.archiveNodes);
+    EXPECT_EQ(back.botRows, five.botRows);
+    EXPECT_EQ(back.stamp, "5.3.0");
+    EXPECT_EQ(archive(), archiveAtSix);
+
+    const Seen again = start(kSix);
+    EXPECT_EQ(again.prompt, asked);
+    EXPECT_EQ(again.botRows, six.botRows);
+    EXPECT_NE(hub.ReadSetting(newItems).find("\tbEnableNewItems = 0,\r\n\tiNumberOfNewItems = 99,"),
+              std::string::npos);
+
+    // A second rebuild as 6.0.0 changes nothing.
+    const auto tree = Snapshot();
+    hub.WriteSetting("General/Globals/Version.tbl", "tVersion = {\r\n\tsVersion = \"x\",\r\n}\r\n");
+    start(kSix);
+    EXPECT_EQ(Snapshot(), tree);
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ class TextEditorTest : public ::testing::Test {
     std::ostringstream transcript_;
     ScriptedHost host_;
     PageRegistry registry_;
-    Container container_{files_, host_, registry_};
+    Container container_{files_, host_, registry_, store::kBuildVersion};
 };
 
 TEST_F(TextEditorTest, ALoadAndSaveCycleAddsOneEmptyLineAtTheEnd) {

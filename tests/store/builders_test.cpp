@@ -31,7 +31,7 @@ class Builders : public ::testing::Test {
   protected:
     void SetUp() override { fs::create_directories(hub.Settings() / "Test"); }
     std::string Build(const FileSchema& schema, int lastProfile, bool indexing = true) {
-        BuildRun run{files, lastProfile};
+        BuildRun run{files, lastProfile, kBuildVersion};
         files.SetIndexing(indexing);
         BuildFile(schema, run);
         return hub.ReadSetting("Test/Sample.tbl");
@@ -146,7 +146,7 @@ TEST_F(Builders, KeysOfFunctionsTheEditionLacksAreLeftOut) {
                       FileKind::Reset};
     EXPECT_EQ(Build(schema, 0),
               Crlf({"tSample = {", "\tbEverywhere = 1,", "\tbGamesOnly = 1,", "}"}));
-    BuildRun run{files, 0, "Umberscribe"};
+    BuildRun run{files, 0, kBuildVersion, "Umberscribe"};
     BuildFile(schema, run);
     EXPECT_EQ(hub.ReadSetting("Test/Sample.tbl"), Crlf({"tSample = {", "\tbEverywhere = 1,", "}"}));
 }
@@ -176,7 +176,7 @@ TEST_F(Builders, AnAreaMakesTheFoldersOfItsEditionAndRunsEachBuilderRightAfterIt
                 ? "made"
                 : "missing");
     });
-    BuildRun run{files, 0, "Hangman"};
+    BuildRun run{files, 0, kBuildVersion, "Hangman"};
     builders.BuildArea(Area::Games, run);
     EXPECT_EQ(seen, std::vector<std::string>{"made"});
     fs::remove_all(hub.Settings() / "Test");
@@ -187,7 +187,7 @@ TEST_F(Builders, AnAreaMakesTheFoldersOfItsEditionAndRunsEachBuilderRightAfterIt
 
 TEST_F(Builders, TheSecurityPackHasEverySecurityFolderButTheAntiAdvertiser) {
     BuilderRegistry builders;
-    BuildRun run{files, 0, "Umberscribe"};
+    BuildRun run{files, 0, kBuildVersion, "Umberscribe"};
     builders.BuildArea(Area::Security, run);
     builders.BuildArea(Area::Games, run);
     EXPECT_TRUE(fs::is_directory(hub.Settings() / "Security" / "UserLog" / "Logs"));
@@ -197,10 +197,10 @@ TEST_F(Builders, TheSecurityPackHasEverySecurityFolderButTheAntiAdvertiser) {
 
 TEST_F(Builders, TheArchiveIsBuiltInTheFullPackFromMajorVersionSixOnly) {
     BuilderRegistry builders;
-    BuildRun now{files, 0};
+    BuildRun now{files, 0, kBuildVersion};
     builders.BuildArea(Area::Archive, now);
     EXPECT_FALSE(fs::exists(hub.Settings() / "TheVellum"));
-    BuildRun later{files, 0, kEdition, ProgramVersion{6, 0, 0}};
+    BuildRun later{files, 0, ProgramVersion{6, 0, 0}};
     builders.BuildArea(Area::Archive, later);
     EXPECT_TRUE(fs::is_directory(hub.Settings() / "TheVellum" / "Hyperlink"));
 }

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <optional>
+
 #include "store/cp1252.h"
 #include "store/edition.h"
 #include "support/temp_hub.h"
@@ -76,15 +79,52 @@ TEST(Cp1252, EveryByteSurvivesARoundTripThroughUtf8) {
 }
 
 TEST(Edition, TheFullPackHasEveryAreaButTheArchiveBeforeVersionSix) {
-    EXPECT_TRUE(EditionHas({"Folianth"}));
-    EXPECT_TRUE(EditionHas({}));
+    EXPECT_TRUE(EditionHas({"Folianth"}, kEdition));
+    EXPECT_TRUE(EditionHas({}, kEdition));
     EXPECT_FALSE(EditionHas({"Folianth"}, "Trivia"));
+    EXPECT_TRUE(EditionHas({"Folianth"}, kEdition));
     EXPECT_TRUE(EditionHas({"Folianth", "Trivia"}, "Trivia"));
     EXPECT_FALSE(ArchiveBuilt("Quillbook", {5, 3, 0}));
     EXPECT_TRUE(ArchiveBuilt("Quillbook", {6, 0, 0}));
     EXPECT_TRUE(ArchiveBuilt("Jukebox", {5, 3, 0}));
     EXPECT_FALSE(ArchiveBuilt("Trivia", {6, 0, 0}));
-    EXPECT_EQ(VersionText(), "5.3.0");
+    // The major is compared as a number: 10 comes after 6, and so does 06.
+    EXPECT_TRUE(ArchiveBuilt("Quillbook", {10, 0, 0}));
+    EXPECT_EQ(VersionText(kBuildVersion), "5.3.0");
+}
+
+// --program-version takes three numbers joined by "." and nothing else.
+TEST(Edition, AProgramVersionIsThreeNumbersJoinedByDots) {
+    const struct {
+        const char* text;
+        std::optional<std::array<int, 3>> version;
+    } cases[] = {
+        {"6.0.0", std::array{6, 0, 0}},
+        {"5.3.0", std::array{5, 3, 0}},
+        {"10.02.3", std::array{10, 2, 3}},
+        {"06.0.0", std::array{6, 0, 0}},
+        {"", std::nullopt},
+        {"6", std::nullopt},
+        {"6.0", std::nullopt},
+        {"6.0.0.0", std::nullopt},
+        {"6.0.", std::nullopt},
+        {".6.0.0", std::nullopt},
+        {"6..0", std::nullopt},
+        {"-6.0.0", std::nullopt},
+        {"+6.0.0", std::nullopt},
+        {"6.0.0 ", std::nullopt},
+        {" 6.0.0", std::nullopt},
+        {"6.x.0", std::nullopt},
+        {"v6.0.0", std::nullopt},
+        {"99999999999.0.0", std::nullopt},
+    };
+    for (const auto& [text, version] : cases) {
+        SCOPED_TRACE(text);
+        const auto parsed = ParseVersion(text);
+        ASSERT_EQ(parsed.has_value(), version.has_value());
+        if (!parsed) continue;
+        EXPECT_EQ((std::array{parsed->major, parsed->minor, parsed->revision}), *version);
+    }
 }
 
 }  // namespace

@@ -22,12 +22,13 @@ class AreaRebuild : public ::testing::Test {
     }
     // A hub of `profiles` profiles, Unregistered counted.
     void Rebuild(int profiles) {
-        Run(store::BuildRun{.files = files, .lastProfile = profiles - 2});
+        Run(store::BuildRun{.files = files, .lastProfile = profiles - 2, .version = version});
     }
     // A hub whose profiles have these names, Unregistered first.
     void Rebuild(std::vector<std::string> names) {
         Run(store::BuildRun{.files = files,
                             .lastProfile = static_cast<int>(names.size()) - 2,
+                            .version = version,
                             .profileNames = std::move(names)});
     }
     std::string Read(const std::string& file) const { return hub.ReadSetting(folder_ + file); }
@@ -38,6 +39,8 @@ class AreaRebuild : public ::testing::Test {
     TempHub hub;
     store::TableFiles files{hub.ProgramFolder()};
     store::BuilderRegistry builders;
+    // The version the rebuilds run as: the build's, unless a test asks for another.
+    store::ProgramVersion version = store::kBuildVersion;
 
   private:
     void Run(store::BuildRun run) { builders.BuildArea(area_, run); }

@@ -28,7 +28,11 @@ class RecordingHost : public shell::ScriptedHost {
 };
 
 struct PageHarness {
-    PageHarness() { pages::RegisterAllPages(registry); }
+    // Pages and rebuilds behave as `version`.
+    explicit PageHarness(store::ProgramVersion version = store::kBuildVersion)
+        : container{files, host, registry, version} {
+        pages::RegisterAllPages(registry);
+    }
 
     // Presses a button of one of the page's toolbars as a click does; false where it is off.
     static bool Click(shell::Page& page, const char* toolbar, const char* button) {
@@ -44,6 +48,7 @@ struct PageHarness {
         pages::RegisterAllBuilders(builders);
         store::BuildRun run{.files = files,
                             .lastProfile = container.Profiles().LastNumber(),
+                            .version = container.Version(),
                             .profileNames = container.Profiles().Names()};
         if (area) {
             builders.BuildArea(*area, run);
@@ -57,7 +62,7 @@ struct PageHarness {
     std::ostringstream transcript;
     RecordingHost host{transcript};
     shell::PageRegistry registry;
-    shell::Container container{files, host, registry};
+    shell::Container container;
 };
 
 }  // namespace qb::test

@@ -26,7 +26,7 @@ T& Loaded(const std::unique_ptr<T>& part, const char* what) {
 void WindowHarness::Load() {
     files_ = std::make_unique<store::TableFiles>(hub_.ProgramFolder());
     if (registry_.Keys().empty()) pages::RegisterAllPages(registry_);
-    container_ = std::make_unique<shell::Container>(*files_, host_, registry_);
+    container_ = std::make_unique<shell::Container>(*files_, host_, registry_, version_);
     container_->FillNavigation();
     container_->LoadProfiles();
 }
@@ -41,6 +41,7 @@ void WindowHarness::LoadRebuilt(int profiles) {
     pages::RegisterAllBuilders(builders);
     store::BuildRun run{.files = Container().Files(),
                         .lastProfile = Container().Profiles().LastNumber(),
+                        .version = Container().Version(),
                         .profileNames = Container().Profiles().Names()};
     shell::RebuildSettings(run, builders);
 }

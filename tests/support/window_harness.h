@@ -32,6 +32,8 @@ class WindowHarness {
     gui::QtHost& Host() { return host_; }
     // A test that needs its own pages, or pages with services, registers them before Load.
     shell::PageRegistry& Registry() { return registry_; }
+    // The version the program behaves as, set before Load: the build's unless a test names one.
+    void SetVersion(store::ProgramVersion version) { version_ = version; }
 
     // Opens the hub's files and makes the container: every page is registered unless the test
     // registered its own, the navigation is filled and the profiles are loaded, in the order
@@ -63,6 +65,7 @@ class WindowHarness {
     std::unique_ptr<store::TableFiles> files_;
     gui::QtHost host_;
     shell::PageRegistry registry_;
+    store::ProgramVersion version_ = store::kBuildVersion;
     std::unique_ptr<shell::Container> container_;
     std::unique_ptr<gui::MainWindow> window_;
 };

@@ -144,7 +144,7 @@ class frmCommunicationPortal : public Page, private hublink::PortalValues {
     // A portal with no ignore list ignores the pack's own bots, so that the scripts' notices on
     // one hub don't reach the other. Unsaved: this is no change of the user's.
     void IgnoreTheBots() {
-        for (const std::string& table : BuildBotList()) {
+        for (const std::string& table : BuildBotList(context_.version)) {
             std::string name = context_.files.ReadTableValue(kBotsFile, "sName", table);
             // A missing Bots.tbl reads as no names, and an empty nick would ignore every line
             // that has no sender.

@@ -4,7 +4,7 @@
 
 namespace qb::pages {
 
-std::vector<std::string> BuildBotList() {
+std::vector<std::string> BuildBotList(store::ProgramVersion version) {
     // The full pack has every function, so only the archive asks its own question.
     std::vector<std::string> tables = {
         "tMain",
@@ -59,7 +59,7 @@ std::vector<std::string> BuildBotList() {
         "tQuotations",
         "tSpells",
     };
-    if (store::ArchiveBuilt()) {
+    if (store::ArchiveBuilt(store::kEdition, version)) {
         for (const char* archive :
              {"tBookshelf", "tDVDRack", "tJukebox", "tSongbook", "tArcade", "tHyperlink"}) {
             tables.emplace_back(archive);

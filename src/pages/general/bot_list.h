@@ -14,8 +14,8 @@ namespace qb::pages {
 inline constexpr const char* kBotsFile = "General\\Bots\\Bots.tbl";
 
 // The sub-table names of Bots.tbl in the order the pack lists them, "tMain" first; the archive's
-// bots only where the archive is built.
-std::vector<std::string> BuildBotList();
+// bots only where the archive is built, which the version the run behaves as decides.
+std::vector<std::string> BuildBotList(store::ProgramVersion version);
 
 struct BotIdentity {
     std::string name;

@@ -78,7 +78,7 @@ class frmGeneralBots : public shell::Page {
     void LoadSettings() override {
         auto& files = context_.files;
         lvwBots.Clear();
-        for (const std::string& table : BuildBotList()) {
+        for (const std::string& table : BuildBotList(context_.version)) {
             const int row = lvwBots.Count() + 1;
             lvwBots.Append(RowKey(row), files.ReadTableValue(kBotsFile, "sFunction", table));
             lvwBots.SetCell(row, kName, files.ReadTableValue(kBotsFile, "sName", table));
@@ -95,7 +95,7 @@ class frmGeneralBots : public shell::Page {
         Page::RestoreDefaults();
         lvwBots.Clear();
         for (const BotFunction& function : BotFunctions()) {
-            if (!store::Passes(function.editions)) continue;
+            if (!store::Passes(function.editions, store::kEdition, context_.version)) continue;
             const BotIdentity bot = DefaultBot(function.group);
             const int row = lvwBots.Count() + 1;
             lvwBots.Append(RowKey(row), std::string(function.function));
