@@ -16,6 +16,8 @@ const std::vector<Command>& Commands() {
          PortalCommand},
         {"check", "check               list the table files the scripts would fail to load",
          CheckCommand},
+        {"restore", "restore [BACKUP]    list the backups of the settings, or put one back",
+         RestoreCommand},
     };
     return commands;
 }

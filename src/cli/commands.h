@@ -27,6 +27,7 @@ int ShowCommand(Session& session, const Arguments& arguments);
 int DriveCommand(Session& session, const Arguments& arguments);
 int CheckCommand(Session& session, const Arguments& arguments);
 int PortalCommand(Session& session, const Arguments& arguments);
+int RestoreCommand(Session& session, const Arguments& arguments);
 
 struct Command {
     const char* name;

@@ -1,6 +1,8 @@
 #include "shell/startup.h"
 
+#include "store/backups.h"
 #include "store/change_report.h"
+#include "store/fatal_error.h"
 #include "store/paths.h"
 
 namespace qb::shell {
@@ -22,6 +24,23 @@ class Recording {
 
 // The folders the scripts share with other packs come first, and stay even when the user then
 // cancels the rebuild.
+// The tree as it was, kept before the rebuild touches it. A backup that can't be written stops
+// the start before any settings file is replaced.
+void BackUpTree(Container& container) {
+    const auto settings = store::ToNativePath(container.Files().SettingsFolder());
+    if (!settings) return;
+    const std::string version =
+        container.Files().ReadTableValue(VersionSchema().file, "sVersion", "");
+    try {
+        store::BackUpSettings(*settings, version);
+    } catch (const store::FatalError& error) {
+        throw store::FatalError(error.Path(),
+                                error.Reason() +
+                                    " (the backup of the settings before the rebuild; nothing was "
+                                    "rebuilt and every settings file is as it was)");
+    }
+}
+
 void BuildSharedFolders(Container& container, const store::BuilderRegistry& builders) {
     store::BuildRun shared{container.Files(), container.Profiles().LastNumber(),
                            container.Version()};
@@ -110,6 +129,7 @@ StartResult RunStartChecks(Container& container, const store::BuilderRegistry& b
         return DescribeRecord(container, record);
     };
     if (container.GetHost().ShowMessage(question) != Answer::OK) return StartResult::Cancelled;
+    BackUpTree(container);
     ApplyRebuild(container, builders);
     return StartResult::Ready;
 }

@@ -49,8 +49,9 @@ void RecordRebuild(Container& container, const store::BuilderRegistry& builders,
 enum class StartResult { Ready, Cancelled };
 
 // The load up to the news: profiles, shared folders, the question and the rebuild where one is
-// due. Cancelled means the program must end without opening anything. The question offers the
-// list of what the rebuild would write (Message::showChanges).
+// due, after a backup of the tree as it was (store/backups). Cancelled means the program must end
+// without opening anything. The question offers the list of what the rebuild would write
+// (Message::showChanges).
 StartResult RunStartChecks(Container& container, const store::BuilderRegistry& builders);
 
 // RunStartChecks as a dry run: the same steps, nothing asked, every write recorded. Returns the

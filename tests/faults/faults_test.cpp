@@ -180,42 +180,88 @@ TEST_F(Faults, AFullDiskEndsTheSaveAndKeepsTheOldFile) {
     EXPECT_EQ(Snapshot(Settings(hub), true), before);  // no temporary left either
 }
 
+// A start of `hub` on a tmpfs of 4 MiB filled to leave `freeKiB` free, in a user namespace; what
+// the disk held afterwards is copied out to `copy` before the namespace and its mount go away.
+struct DiskRun {
+    int status = -1;
+    std::string err;
+};
+
+bool CanMountTmpfs() {
+    return std::system("unshare --user --map-root-user --mount true 2>/dev/null") == 0;
+}
+
+DiskRun StartOnFullDisk(const fs::path& work, const fs::path& hub, const fs::path& copy,
+                        long freeKiB) {
+    const fs::path mount = work / "disk";
+    fs::create_directories(mount);
+    const std::string script =
+        "set -e; mount -t tmpfs -o size=4m tmpfs '" + mount.string() + "'; cp -r '" + hub.string() +
+        "' '" + mount.string() + "/hub'; avail=$(df --output=avail -k '" + mount.string() +
+        "' | tail -1); head -c $(( (avail - " + std::to_string(freeKiB) +
+        ") * 1024 )) /dev/zero > '" + mount.string() + "/filler' || true; set +e; '" + QB_CLI +
+        "' --scripts '" + mount.string() + "/hub/scripts' start --yes > '" + work.string() +
+        "/out' 2> '" + work.string() + "/err'; echo $? > '" + work.string() + "/status'; cp -r '" +
+        mount.string() + "/hub' '" + copy.string() + "'";
+    DiskRun run;
+    if (RunProgram(
+            {"/usr/bin/unshare", "--user", "--map-root-user", "--mount", "/bin/bash", "-c", script},
+            "")
+            .status != 0) {
+        return run;
+    }
+    std::ifstream(work / "status") >> run.status;
+    std::ifstream errors(work / "err");
+    run.err.assign(std::istreambuf_iterator<char>(errors), {});
+    return run;
+}
+
+fs::path Backups(const fs::path& hub) {
+    return hub / "scripts" / "Vandrell's Quillbook" / "Settings-backups";
+}
+
+TEST_F(Faults, ADiskFullDuringTheBackupStopsTheRebuildBeforeAnyFileIsTouched) {
+    if (!CanMountTmpfs()) GTEST_SKIP() << "no user namespaces here to mount a tmpfs in";
+    const fs::path hub = HubDueForRebuild("backupfull");
+    const auto before = Snapshot(Settings(hub), true);
+    const size_t backupsBefore = Snapshot(Backups(hub), true).size();
+    const fs::path copy = work_ / "after";
+    const DiskRun run = StartOnFullDisk(work_, hub, copy, 0);
+    EXPECT_EQ(run.status, 1) << run.err;
+    EXPECT_NE(run.err.find(": No space left on device (the backup of the settings before the "
+                           "rebuild; nothing was rebuilt and every settings file is as it was)\n"),
+              std::string::npos)
+        << run.err;
+    EXPECT_EQ(Snapshot(Settings(copy), true), before);
+    // No half backup is left to take the place of a whole one.
+    EXPECT_EQ(Snapshot(Backups(copy), true).size(), backupsBefore);
+}
+
 TEST_F(Faults, AFullTmpfsEndsTheRebuildWithEveryFileWhole) {
-    if (std::system("unshare --user --map-root-user --mount true 2>/dev/null") != 0) {
+    if (!CanMountTmpfs()) {
         GTEST_SKIP()
             << "no user namespaces here to mount a tmpfs in; the size limit test stands in";
     }
+    // A tree whose security files are gone, so that the rebuild needs room to make them again.
     const fs::path hub = HubDueForRebuild("tmpfs");
+    fs::remove_all(Settings(hub) / "Security");
     const auto before = Snapshot(Settings(hub));
+    const size_t backupsBefore = Snapshot(Backups(hub)).size();
     const fs::path reference = work_ / "reference";
     fs::copy(hub, reference, fs::copy_options::recursive);
     ASSERT_EQ(Cli(reference, {"start", "--yes"}).status, 0);
     const auto after = Snapshot(Settings(reference));
-    const fs::path mount = work_ / "disk";
+    // Room for the backup, which comes first, and not for the rebuild.
+    uintmax_t backupBytes = 0;
+    for (const auto& entry : fs::directory_iterator(Backups(reference))) {
+        backupBytes = std::max(backupBytes, entry.file_size());
+    }
     const fs::path copy = work_ / "after";
-    fs::create_directories(mount);
-    // The hub on a disk of 1 MiB, filled to the brim, then started; what the disk holds
-    // afterwards is copied out before the namespace and its mount go away.
-    const std::string script =
-        "set -e; mount -t tmpfs -o size=1m tmpfs '" + mount.string() + "'; cp -r '" + hub.string() +
-        "' '" + mount.string() + "/hub'; avail=$(df --output=avail -k '" + mount.string() +
-        "' | tail -1); head -c $(( (avail + 64) * 1024 )) /dev/zero > '" + mount.string() +
-        "/filler' || true; set +e; '" + QB_CLI + "' --scripts '" + mount.string() +
-        "/hub/scripts' start --yes > '" + work_.string() + "/out' 2> '" + work_.string() +
-        "/err'; echo $? > '" + work_.string() + "/status'; cp -r '" + mount.string() + "/hub' '" +
-        copy.string() + "'";
-    ASSERT_EQ(RunProgram({"/usr/bin/unshare", "--user", "--map-root-user", "--mount", "/bin/bash",
-                          "-c", script},
-                         "")
-                  .status,
-              0);
-    std::ifstream status(work_ / "status");
-    int code = -1;
-    status >> code;
-    std::ifstream errors(work_ / "err");
-    const std::string err((std::istreambuf_iterator<char>(errors)), {});
-    EXPECT_EQ(code, 1) << err;
-    EXPECT_NE(err.find(": No space left on device"), std::string::npos) << err;
+    const DiskRun run =
+        StartOnFullDisk(work_, hub, copy, static_cast<long>(backupBytes / 4096 + 3) * 4);
+    EXPECT_EQ(run.status, 1) << run.err;
+    EXPECT_NE(run.err.find(": No space left on device\n"), std::string::npos) << run.err;
+    EXPECT_EQ(Snapshot(Backups(copy)).size(), backupsBefore + 1) << "the backup came first, whole";
     // A file the rebuild didn't reach holds what it held; one it reached holds all it should.
     for (const auto& [name, bytes] : Snapshot(Settings(copy), true)) {
         const auto old = before.find(name);
@@ -226,6 +272,58 @@ TEST_F(Faults, AFullTmpfsEndsTheRebuildWithEveryFileWhole) {
     }
     EXPECT_EQ(Snapshot(Settings(copy)).at("General/Globals/Version.tbl"),
               before.at("General/Globals/Version.tbl"));  // so the next start asks again
+}
+
+TEST_F(Faults, ARebuildKilledWhileItsBackupIsWrittenLeavesTheTreeUntouched) {
+    const fs::path original = HubDueForRebuild("original");
+    // A large file that doesn't compress, so that the backup takes long enough to be hit.
+    {
+        std::mt19937 random(7);
+        std::ofstream big(Settings(original) / "Games" / "Trivia" / "Big.lst", std::ios::binary);
+        for (int i = 0; i < (6 << 20) / 4; ++i) {
+            const uint32_t word = random();
+            big.write(reinterpret_cast<const char*>(&word), sizeof word);
+        }
+    }
+    const auto before = Snapshot(Settings(original), true);
+    const auto backupsBefore = Snapshot(Backups(original), true);
+    auto timed = [](auto&& run) {
+        const auto start = std::chrono::steady_clock::now();
+        run();
+        return std::chrono::duration_cast<std::chrono::microseconds>(
+            std::chrono::steady_clock::now() - start);
+    };
+    const fs::path reference = work_ / "reference";
+    fs::copy(original, reference, fs::copy_options::recursive);
+    const auto ready = timed([&] { Cli(original, {"show", "Security~CommandSpy"}); });
+    const auto full = timed([&] { ASSERT_EQ(Cli(reference, {"start", "--yes"}).status, 0); });
+
+    std::mt19937 random(20261125);
+    std::uniform_int_distribution<long> when(ready.count() / 2, std::max(ready, full).count());
+    int killedInBackup = 0;
+    for (int round = 0; round < 12; ++round) {
+        const fs::path hub = work_ / ("killed" + std::to_string(round));
+        fs::copy(original, hub, fs::copy_options::recursive);
+        const Outcome run = Cli(hub, {"start", "--yes"}, {},
+                                {.killAfter = std::chrono::microseconds(when(random) + 1)});
+        const auto backups = Snapshot(Backups(hub), true);
+        const bool backupWhole = std::any_of(backups.begin(), backups.end(), [&](const auto& b) {
+            return !backupsBefore.contains(b.first) && !b.first.starts_with(".");
+        });
+        if (!backupWhole) {
+            // Killed before the backup was whole: no settings file may have been touched.
+            EXPECT_EQ(Snapshot(Settings(hub), true), before) << "round " << round;
+            if (run.status == -SIGKILL && backups.size() > backupsBefore.size()) ++killedInBackup;
+        }
+        // A later start cleans up and finishes: one whole backup, the tree rebuilt.
+        ASSERT_EQ(Cli(hub, {"start", "--yes"}).status, 0) << "round " << round;
+        for (const auto& [name, bytes] : Snapshot(Backups(hub), true)) {
+            EXPECT_FALSE(name.starts_with(".")) << "round " << round << ": " << name << " left";
+        }
+        fs::remove_all(hub);
+    }
+    RecordProperty("killed_in_backup", killedInBackup);
+    EXPECT_GT(killedInBackup, 0) << "no kill landed inside the backup; the test proves nothing";
 }
 
 TEST_F(Faults, ARebuildKilledAtRandomPointsNeverLeavesAFileHalfWritten) {

@@ -12,6 +12,7 @@
 #include "shell/about.h"
 #include "shell/scripted_host.h"
 #include "shell/startup.h"
+#include "store/backups.h"
 #include "store/fatal_error.h"
 #include "support/temp_hub.h"
 
@@ -47,10 +48,12 @@ class StartUp : public ::testing::Test {
         return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
     }
 
+    // Every file and folder of the hub but the backups, which each rebuild adds to.
     std::map<std::string, std::string> Snapshot() const {
         std::map<std::string, std::string> tree;
         for (const auto& entry : fs::recursive_directory_iterator(hub.Root())) {
             const std::string path = fs::relative(entry.path(), hub.Root()).string();
+            if (path.find("Settings-backups") != std::string::npos) continue;
             tree[path] = entry.is_regular_file() ? hub.Read(path) : "(folder)";
         }
         return tree;
@@ -73,6 +76,10 @@ TEST_F(StartUp, TwoRebuildsInARowLeaveEveryFileAsTheFirstWroteIt) {
     ASSERT_EQ(Start(), StartResult::Ready);
     EXPECT_EQ(Snapshot(), first);
     EXPECT_EQ(Prompts(), 2);
+    // The second rebuild kept the tree it replaced, under the version that tree had.
+    const auto backups = store::ListBackups(hub.Settings());
+    ASSERT_FALSE(backups.empty());
+    EXPECT_TRUE(backups.front().name.ends_with("-1.0.tar.gz")) << backups.front().name;
 }
 
 TEST_F(StartUp, ARebuildStoppedHalfWayAsksAgainAtTheNextStart) {
