@@ -5,6 +5,8 @@
 // only from major version 6 (store::ArchiveBuilt); before that its pages still open by key, over
 // whatever TheVellum holds.
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +26,17 @@ struct ArchiveKind {
 
 // The six kinds, in the order of their folders.
 const std::vector<ArchiveKind>& ArchiveKinds();
+inline constexpr size_t kArchiveKinds = 6;
+
+// One value a kind, `make(kind, index)` in the kinds' order: what each page of a kind is made of,
+// made once by its caller and kept.
+template <typename T, typename Make>
+std::array<T, kArchiveKinds> PerArchiveKind(Make make) {
+    std::array<T, kArchiveKinds> made;
+    for (size_t index = 0; index < kArchiveKinds; ++index)
+        made[index] = make(ArchiveKinds().at(index), index);
+    return made;
+}
 
 // The defaults every kind shares (ArchiveDefault): bEnableNewItems, iNumberOfNewItems, bEnabled,
 // sChangeTime, sAnnounceTime; empty for any other key.

@@ -8,8 +8,6 @@
 namespace qb::pages {
 namespace {
 
-constexpr size_t kKinds = 6;
-
 store::FileSchema SchemaOf(const ArchiveKind& kind) {
     const std::string base = "TheVellum\\" + kind.name + "\\" + kind.name;
     return {
@@ -42,13 +40,9 @@ shell::PageDecl DeclOf(const ArchiveKind& kind, const store::FileSchema& file) {
     };
 }
 
-const std::array<store::FileSchema, kKinds>& Schemas() {
-    static const std::array<store::FileSchema, kKinds> schemas = [] {
-        std::array<store::FileSchema, kKinds> made;
-        for (size_t kind = 0; kind < kKinds; ++kind)
-            made[kind] = SchemaOf(ArchiveKinds().at(kind));
-        return made;
-    }();
+const std::array<store::FileSchema, kArchiveKinds>& Schemas() {
+    static const auto schemas = PerArchiveKind<store::FileSchema>(
+        [](const ArchiveKind& each, size_t) { return SchemaOf(each); });
     return schemas;
 }
 
@@ -59,12 +53,8 @@ const store::FileSchema& NewItemsSchema(size_t kind) {
 }
 
 const shell::PageDecl& NewItemsPage(size_t kind) {
-    static const std::array<shell::PageDecl, kKinds> pages = [] {
-        std::array<shell::PageDecl, kKinds> made;
-        for (size_t each = 0; each < kKinds; ++each)
-            made[each] = DeclOf(ArchiveKinds().at(each), Schemas()[each]);
-        return made;
-    }();
+    static const auto pages = PerArchiveKind<shell::PageDecl>(
+        [](const ArchiveKind& each, size_t index) { return DeclOf(each, Schemas()[index]); });
     return pages.at(kind);
 }
 

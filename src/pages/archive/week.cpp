@@ -16,7 +16,6 @@ namespace {
 using shell::DialogKind;
 using shell::PageContext;
 
-constexpr size_t kKinds = 6;
 // A load shows at most this many rows; a rebuild keeps at most kBuilderRows of them.
 constexpr int kPageRows = 500;
 constexpr int kBuilderRows = 50;
@@ -81,13 +80,9 @@ store::FileSchema SchemaOf(const ArchiveKind& kind) {
              {store::FieldKind::String, "sChangeTime", ArchiveDefault("sChangeTime")}}};
 }
 
-const std::array<store::FileSchema, kKinds>& Schemas() {
-    static const std::array<store::FileSchema, kKinds> schemas = [] {
-        std::array<store::FileSchema, kKinds> made;
-        for (size_t kind = 0; kind < kKinds; ++kind)
-            made[kind] = SchemaOf(ArchiveKinds().at(kind));
-        return made;
-    }();
+const std::array<store::FileSchema, kArchiveKinds>& Schemas() {
+    static const auto schemas = PerArchiveKind<store::FileSchema>(
+        [](const ArchiveKind& each, size_t) { return SchemaOf(each); });
     return schemas;
 }
 
@@ -283,12 +278,8 @@ size_t KindIndex(const ArchiveKind& kind) {
 }
 
 const shell::PageDecl& WeekDecl(const ArchiveKind& kind) {
-    static const std::array<shell::PageDecl, kKinds> pages = [] {
-        std::array<shell::PageDecl, kKinds> made;
-        for (size_t each = 0; each < kKinds; ++each)
-            made[each] = DeclOf(ArchiveKinds().at(each), Schemas()[each]);
-        return made;
-    }();
+    static const auto pages = PerArchiveKind<shell::PageDecl>(
+        [](const ArchiveKind& each, size_t index) { return DeclOf(each, Schemas()[index]); });
     return pages.at(KindIndex(kind));
 }
 
