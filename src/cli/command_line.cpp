@@ -169,9 +169,9 @@ std::variant<Invocation, int> ParseCommandLine(const std::vector<std::string>& w
         const std::string text = parser.value(version).toStdString();
         const auto parsed = store::ParseVersion(text);
         if (!parsed) {
-            return UsageError(
-                err, "--program-version " + text + ": not three numbers joined by \".\" (as 6.0.0)",
-                helpHint);
+            err << kProgram << ": --program-version " << text
+                << ": not three numbers joined by \".\" (as 6.0.0)\n";
+            return 2;
         }
         run.version = *parsed;
     }
