@@ -43,7 +43,7 @@ void Build(const test::TempHub& hub) {
 // the list through, a page at a time, painting each.
 void Scroll(benchmark::State& state, const test::TempHub& hub, const std::string& key,
             const char* list, const char* openWith = nullptr) {
-    gui::Application program(hub.Scripts());
+    gui::Application program(hub.Scripts(), store::kBuildVersion);
     if (program.Open() >= 0) {
         state.SkipWithError("the start didn't open the window");
         return;

@@ -19,7 +19,7 @@ using namespace qb;
 
 // A hub of `profiles` profiles whose tree one rebuild has made already.
 struct BuiltHub {
-    explicit BuiltHub(int profiles) : run{files, profiles - 1} {
+    explicit BuiltHub(int profiles) : run{files, profiles - 1, store::kBuildVersion} {
         hub.Write("cfg/Profiles.xml", test::ProfilesXml(profiles));
         pages::RegisterAllBuilders(builders);
         shell::RebuildSettings(run, builders);
@@ -46,7 +46,7 @@ void StartWithNothingToRebuild(benchmark::State& state) {
     shell::ScriptedHost host(transcript);
     shell::PageRegistry registry;
     for (auto _ : state) {
-        shell::Container container(built.files, host, registry);
+        shell::Container container(built.files, host, registry, store::kBuildVersion);
         if (shell::RunStartChecks(container, built.builders) != shell::StartResult::Ready) {
             state.SkipWithError("the start asked for a rebuild");
             break;

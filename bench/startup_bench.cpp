@@ -37,7 +37,7 @@ void Build(const test::TempHub& hub) {
 
 void StartToShownWindow(benchmark::State& state, const fs::path& scripts, bool indexing) {
     for (auto _ : state) {
-        auto program = std::make_unique<gui::Application>(scripts);
+        auto program = std::make_unique<gui::Application>(scripts, store::kBuildVersion);
         program->Files().SetIndexing(indexing);
         if (program->Open() >= 0) {
             state.SkipWithError("the start didn't open the window");
