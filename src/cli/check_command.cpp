@@ -29,11 +29,7 @@ std::string TreeName(const fs::path& file, const fs::path& root) {
 
 }  // namespace
 
-int CheckCommand(Session& session, const Arguments& arguments) {
-    if (!arguments.empty()) {
-        std::cerr << "usage: quillbook-cli check\n";
-        return 2;
-    }
+int CheckCommand(Session& session, const Arguments& /*none: the parser allows none*/) {
     const auto root = store::ToNativePath(session.files.SettingsFolder());
     std::error_code error;
     if (!root || !fs::is_directory(*root, error)) {

@@ -17,7 +17,9 @@ struct Session {
     shell::Container& container;
 };
 
-using Arguments = std::vector<std::string>;  // the words after the command's name
+// The words after the command's name, checked against its options and its count of arguments
+// before the command runs: the options it was given (as "--yes" or "-v"), then its arguments.
+using Arguments = std::vector<std::string>;
 
 // Each returns the exit status: 0, 2 for a usage or script error, 3 when the user ends the
 // program at a prompt; a FatalError propagates.
@@ -29,9 +31,19 @@ int CheckCommand(Session& session, const Arguments& arguments);
 int PortalCommand(Session& session, const Arguments& arguments);
 int RestoreCommand(Session& session, const Arguments& arguments);
 
+struct CommandOption {
+    const char* name;  // "yes" for --yes, "v" for -v
+    const char* description;
+};
+
 struct Command {
     const char* name;
-    const char* usage;  // the line of the usage text
+    const char* arguments;  // the synopsis after the name: "[--yes|--no|--dry-run]", "KEY"
+    const char* summary;    // one line of the command list
+    const char* details;    // what `help COMMAND` adds
+    std::vector<CommandOption> options;
+    int fewest = 0;  // arguments, options aside
+    int most = 0;
     int (*run)(Session&, const Arguments&);
 };
 

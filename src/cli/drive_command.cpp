@@ -5,11 +5,7 @@
 
 namespace qb::cli {
 
-int DriveCommand(Session& session, const Arguments& arguments) {
-    if (!arguments.empty()) {
-        std::cerr << "usage: quillbook-cli drive < SCRIPT\n";
-        return 2;
-    }
+int DriveCommand(Session& session, const Arguments& /*none: the parser allows none*/) {
     session.container.LoadProfiles();
     session.container.FillNavigation();
     // A pop-up menu shows the entries the page has; the script then picks one with `menu`.

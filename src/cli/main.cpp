@@ -1,12 +1,14 @@
 // quillbook-cli: the settings manager without a window. It runs from a hub's scripts folder (or the
 // folder given by --scripts) and prints what the desktop window would show.
 
-#include <cstring>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <variant>
 #include <vector>
 
+#include "cli/command_line.h"
 #include "cli/commands.h"
 #include "pages/pages.h"
 #include "shell/container.h"
@@ -21,52 +23,32 @@ namespace {
 namespace fs = std::filesystem;
 using namespace qb;
 
-int Usage() {
-    std::cerr << "usage: quillbook-cli [--scripts DIR] [--program-version X.Y.Z] COMMAND\n"
-                 "commands:\n";
-    for (const auto& command : cli::Commands())
-        std::cerr << "  " << command.usage << "\n";
-    return 2;
-}
-
 int Run(int argc, char** argv) {
-    fs::path scripts = fs::current_path();
-    // The run behaves as a build of this version; it is read here once and handed down.
-    store::ProgramVersion version = store::kBuildVersion;
-    std::vector<std::string> words;
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--scripts") == 0 && i + 1 < argc) {
-            scripts = argv[++i];
-        } else if (std::strcmp(argv[i], "--program-version") == 0) {
-            if (i + 1 == argc) return Usage();
-            const auto parsed = store::ParseVersion(argv[++i]);
-            if (!parsed) {
-                std::cerr << "quillbook-cli: --program-version " << argv[i]
-                          << ": not three numbers joined by \".\" (as 6.0.0)\n";
-                return 2;
-            }
-            version = *parsed;
-        } else {
-            words.emplace_back(argv[i]);
-        }
+    std::vector<std::string> words(argv + 1, argv + argc);
+    // The shell's completion asks for the words that may follow what is typed so far.
+    if (const auto marker = std::find(words.begin(), words.end(), "__complete");
+        marker != words.end()) {
+        words.erase(marker);
+        for (const std::string& word : cli::Completions(words))
+            std::cout << word << "\n";
+        return 0;
     }
-    if (words.empty()) return Usage();
-    for (const auto& command : cli::Commands()) {
-        if (words.front() != command.name) continue;
-        store::TableFiles files(store::ToScriptPath(fs::absolute(scripts).lexically_normal()));
-        shell::ScriptedHost host(std::cout);
-        shell::PageRegistry registry;
-        // Drives tick the portal's hubs against a recorder that writes down what it is asked.
-        pages::PageServices services;
-        services.hubLink = [](const hublink::PortalValues& values) {
-            return std::make_unique<hublink::RecordingSessions>(values, std::cout);
-        };
-        pages::RegisterAllPages(registry, services);
-        shell::Container container(files, host, registry, version);
-        cli::Session session{files, host, container};
-        return command.run(session, {words.begin() + 1, words.end()});
-    }
-    return Usage();
+    auto parsed = cli::ParseCommandLine(words, std::cout, std::cerr);
+    if (const int* status = std::get_if<int>(&parsed)) return *status;
+    const cli::Invocation& run = std::get<cli::Invocation>(parsed);
+
+    store::TableFiles files(store::ToScriptPath(fs::absolute(run.scripts).lexically_normal()));
+    shell::ScriptedHost host(std::cout);
+    shell::PageRegistry registry;
+    // Drives tick the portal's hubs against a recorder that writes down what it is asked.
+    pages::PageServices services;
+    services.hubLink = [](const hublink::PortalValues& values) {
+        return std::make_unique<hublink::RecordingSessions>(values, std::cout);
+    };
+    pages::RegisterAllPages(registry, services);
+    shell::Container container(files, host, registry, run.version);
+    cli::Session session{files, host, container};
+    return run.command->run(session, run.arguments);
 }
 
 }  // namespace

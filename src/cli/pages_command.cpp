@@ -16,11 +16,7 @@ void PrintNode(const shell::CatalogueNode& node, int depth) {
 
 }  // namespace
 
-int PagesCommand(Session& session, const Arguments& arguments) {
-    if (!arguments.empty()) {
-        std::cerr << "usage: quillbook-cli pages\n";
-        return 2;
-    }
+int PagesCommand(Session& session, const Arguments& /*none: the parser allows none*/) {
     session.container.FillNavigation();
     PrintNode(session.container.Navigation().root, 0);
     return 0;

@@ -126,11 +126,7 @@ class PrintedSessions : public hublink::Sessions {
 }  // namespace
 
 int PortalCommand(Session& session, const Arguments& arguments) {
-    const bool verbose = arguments.size() == 1 && arguments[0] == "-v";
-    if (!arguments.empty() && !verbose) {
-        std::cerr << "usage: quillbook-cli portal [-v]\n";
-        return 2;
-    }
+    const bool verbose = !arguments.empty();  // -v, its one option
     int argc = 1;
     char name[] = "quillbook-cli";
     char* argv[] = {name, nullptr};

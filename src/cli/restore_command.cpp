@@ -8,10 +8,6 @@
 namespace qb::cli {
 
 int RestoreCommand(Session& session, const Arguments& arguments) {
-    if (arguments.size() > 1) {
-        std::cerr << "usage: quillbook-cli restore [BACKUP]\n";
-        return 2;
-    }
     const auto settings = store::ToNativePath(session.files.SettingsFolder());
     if (!settings) return 2;
     if (arguments.empty()) {

@@ -6,10 +6,6 @@
 namespace qb::cli {
 
 int ShowCommand(Session& session, const Arguments& arguments) {
-    if (arguments.size() != 1) {
-        std::cerr << "usage: quillbook-cli show KEY\n";
-        return 2;
-    }
     session.container.LoadProfiles();
     shell::Page* page = session.container.Open(arguments[0]);
     if (page == nullptr) {

@@ -46,9 +46,8 @@ int DryRun(Session& session, const store::BuilderRegistry& builders) {
 }  // namespace
 
 int StartCommand(Session& session, const Arguments& arguments) {
-    if (arguments.size() > 1 || (arguments.size() == 1 && arguments[0] != "--yes" &&
-                                 arguments[0] != "--no" && arguments[0] != "--dry-run")) {
-        std::cerr << "usage: quillbook-cli start [--yes|--no|--dry-run]\n";
+    if (arguments.size() > 1) {
+        std::cerr << "quillbook-cli: start: --yes, --no and --dry-run exclude each other\n";
         return 2;
     }
     store::BuilderRegistry builders;

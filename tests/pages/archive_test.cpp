@@ -4,9 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <filesystem>
 
-#include "store/fatal_error.h"
 #include "support/area_rebuild.h"
 #include "support/page_harness.h"
 
@@ -14,7 +12,6 @@ namespace qb::pages {
 namespace {
 
 using test::Crlf;
-namespace fs = std::filesystem;
 
 constexpr store::ProgramVersion kSix{6, 0, 0};
 
@@ -113,42 +110,7 @@ TEST_F(ArchiveRebuild, TheWeekFileKeepsFiftyRowsAndTheChangeTimeGoesInQuotes) {
 class WeekPage : public ::testing::Test, protected test::PageHarness {
   protected:
     WeekPage() : PageHarness(kSix) { BuildFor(4, store::Area::Archive); }
-    const shell::ListControl& Week(shell::Page& page) const {
-        return *static_cast<const shell::ListControl*>(page.Find("lvwWeek"));
-    }
-    std::string ChangeTime(shell::Page& page) const {
-        return static_cast<const shell::TextBox*>(page.Find("txtChangeTime"))->Text();
-    }
 };
-
-// The change time the builder quotes with the day's code shows with the day's name; the page
-// writes that bare, and its next load knows no such day. A rebuild quotes what the page wrote.
-TEST_F(WeekPage, TheChangeTimeLosesItsDayThroughThePagesOwnSave) {
-    shell::Page* page = container.Open("Hyperlink~LinkOfTheWeek");
-    EXPECT_EQ(ChangeTime(*page), "Sunday 17:59");
-    static_cast<shell::Toolbar*>(page->Find("tlbFormToolbar"))->onButtonClick("SAVE");
-    EXPECT_NE(hub.ReadSetting("TheVellum/Hyperlink/HyperlinkItemOfTheWeek.tbl")
-                  .find("\tsChangeTime = Sunday 17:59,\r\n"),
-              std::string::npos);
-    ASSERT_TRUE(container.Close(*page));
-    page = container.Open("Hyperlink~LinkOfTheWeek");
-    EXPECT_EQ(ChangeTime(*page), " 17:59");
-    EXPECT_EQ(Week(*page).Row(1).cells, (std::vector<std::string>{"18:00", "PM"}));
-    EXPECT_EQ(Week(*page).Row(1).text, "Sunday");
-}
-
-TEST_F(WeekPage, AFileOfFiveHundredAndOneRowsShowsFiveHundredAndSavesThemRenumbered) {
-    hub.WriteSetting("TheVellum/Hyperlink/HyperlinkItemOfTheWeek.tbl", PageWeekFile(501));
-    shell::Page* page = container.Open("Hyperlink~LinkOfTheWeek");
-    ASSERT_EQ(Week(*page).Count(), 500);
-    EXPECT_EQ(Week(*page).Row(500).cells, (std::vector<std::string>{"00:00", "PM"}));
-    EXPECT_EQ(Week(*page).Row(1).cells, (std::vector<std::string>{"01:00", "Main"}));
-    static_cast<shell::Toolbar*>(page->Find("tlbFormToolbar"))->onButtonClick("SAVE");
-    std::string saved = PageWeekFile(500);
-    // The page's change time is the one its load showed: the day it doesn't know is gone.
-    saved.replace(saved.find("Sunday 17:59"), 12, " 17:59");
-    EXPECT_EQ(hub.ReadSetting("TheVellum/Hyperlink/HyperlinkItemOfTheWeek.tbl"), saved);
-}
 
 // What each dialog of the week page is handed, which a drive's output doesn't show: the edits
 // open on the row's values and the change time's, both titled " Announcement" with no Add; the
@@ -192,22 +154,6 @@ TEST_F(WeekPage, EachDialogOpensOnItsValues) {
     EXPECT_EQ(host.requests[0].comboItems[3],
               (std::vector<std::string>{"Main Chat", "Private Message"}));
     EXPECT_FALSE(page->SaveRequired());
-}
-
-// Before version 6 no week file is made: the rows' reader ends the program, naming the file.
-TEST(WeekPageAtFive, AMissingFileEndsTheProgramNamingIt) {
-    test::PageHarness harness(store::ProgramVersion{5, 3, 0});
-    harness.BuildFor(2);
-    ASSERT_FALSE(fs::exists(harness.hub.Settings() / "TheVellum"));
-    try {
-        harness.container.Open("Songbook~LinkOfTheWeek");
-        FAIL() << "the page opened over a missing file";
-    } catch (const store::FatalError& error) {
-        EXPECT_TRUE(error.Path().ends_with("TheVellum\\Songbook\\SongbookItemOfTheWeek.tbl") ||
-                    error.Path().ends_with("TheVellum/Songbook/SongbookItemOfTheWeek.tbl"))
-            << error.Path();
-    }
-    EXPECT_FALSE(fs::exists(harness.hub.Settings() / "TheVellum"));
 }
 
 }  // namespace
