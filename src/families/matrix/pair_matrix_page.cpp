@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <optional>
 #include <unordered_map>
 
@@ -42,6 +43,15 @@ std::vector<std::string> Numbers(int first, int last) {
     for (int number = first; number <= last; ++number)
         numbers.push_back(std::to_string(number));
     return numbers;
+}
+
+// A row's key, "<n>ID", made without a temporary: a matrix page makes hundreds of thousands.
+std::string RowKey(int n) {
+    char buffer[16];
+    char* end = std::to_chars(buffer, buffer + sizeof buffer - 2, n).ptr;
+    *end++ = 'I';
+    *end++ = 'D';
+    return std::string(buffer, end);
 }
 
 // A row per cell, straight from the files; the list is the data.
@@ -106,11 +116,16 @@ class PairListPage : public MatrixPage {
                 const std::string& byKey = numbers[by];
                 const std::string value =
                     context_.files.ReadTableValue(command.file.file, onKey, byKey, false);
-                shell::ListRow& row = lvwMatrix.Append(
-                    std::to_string(n) + "ID", n == commandRow ? command.text : std::string());
-                row.cells = {
-                    groupStart ? profiles.Text(first + static_cast<int>(by) + 2) : std::string(),
-                    onText, store::IsNumericallyOne(value) ? Yes() : No(), byKey, onKey};
+                shell::ListRow& row =
+                    lvwMatrix.Append(RowKey(n), n == commandRow ? command.text : std::string());
+                // Built in place: a braced list would copy each of the five texts once more.
+                row.cells.reserve(5);
+                row.cells.emplace_back(groupStart ? profiles.Text(first + static_cast<int>(by) + 2)
+                                                  : std::string());
+                row.cells.emplace_back(onText);
+                row.cells.emplace_back(store::IsNumericallyOne(value) ? Yes() : No());
+                row.cells.emplace_back(byKey);
+                row.cells.emplace_back(onKey);
             };
             for (size_t by = 0; by < numbers.size(); ++by) {
                 for (size_t on = 0; on < numbers.size(); ++on) {
@@ -157,8 +172,12 @@ class PairListPage : public MatrixPage {
                     text.Open(1, "[" + row.cells[kByNumberColumn - 2] + "]");
                     groupOpen = true;
                 }
-                const std::string key = IsProfileNumber(on) ? "[" + on + "]" : "[\"" + on + "\"]";
-                text.Bare(2, key, row.cells[kAllowColumn - 2] == Yes() ? "1" : "0");
+                const char* allow = row.cells[kAllowColumn - 2] == Yes() ? "1" : "0";
+                if (IsProfileNumber(on)) {
+                    text.Row(2, on, allow);
+                } else {
+                    text.Bare(2, "[\"" + on + "\"]", allow);
+                }
             }
             if (groupOpen) text.Close(1);
             context_.files.WriteTextFile(command.file.file, text.End());
@@ -246,17 +265,20 @@ class PairFilteredPage : public MatrixPage {
             for (int by = 0; by < side; ++by) {
                 const std::string& byName = Name(by);
                 if (!Passes(text, byName)) continue;
+                // Only a group's first row can differ from the row above it in these two.
+                bool newCommand = lastCommand == nullptr || *lastCommand != text;
+                bool newBy = lastBy == nullptr || *lastBy != byName;
                 for (int on = 0; on < side; ++on) {
-                    const bool newCommand = lastCommand == nullptr || *lastCommand != text;
-                    const bool newBy = lastBy == nullptr || *lastBy != byName;
                     shell::ListRow& row =
-                        lvwMatrix.Append(std::to_string(++n) + "ID", newCommand ? text : "");
+                        lvwMatrix.Append(RowKey(++n), newCommand ? text : std::string());
                     row.cells.reserve(3);
                     row.cells.emplace_back(newBy ? byName : std::string());
                     row.cells.emplace_back(Name(on));
                     row.cells.emplace_back(cells_[Cell(command, by, on)] != 0 ? Yes() : No());
                     lastCommand = &text;
                     lastBy = &byName;
+                    newCommand = false;
+                    newBy = false;
                 }
             }
         }
@@ -285,6 +307,9 @@ class PairFilteredPage : public MatrixPage {
     void SaveSettings() override {
         Page::SaveSettings();
         const int side = Side();
+        // Each On number made into text once, not once per cell.
+        const std::vector<std::string> numbers =
+            Numbers(matrix_.firstProfile, context_.profiles.LastNumber());
         std::optional<store::TableText> text;
         const std::string* lastBy = nullptr;
         const auto write = [&](size_t command) {
@@ -304,7 +329,7 @@ class PairFilteredPage : public MatrixPage {
                 }
                 lastBy = &byName;
                 for (int on = 0; on < side; ++on) {
-                    text->Row(2, on + matrix_.firstProfile,
+                    text->Row(2, numbers[static_cast<size_t>(on)],
                               cells_[Cell(command, by, on)] != 0 ? "1" : "0");
                 }
             }
