@@ -79,6 +79,9 @@ const store::FileSchema& VersionSchema() {
 }
 
 void RebuildSettings(store::BuildRun& run, const store::BuilderRegistry& builders) {
+    // One scope for the whole rebuild: nothing but the rebuild changes the tree while it runs,
+    // so each folder is listed once however many files it gets.
+    const store::TableFiles::ReadScope scope(run.files);
     const std::string settings = run.files.SettingsFolder();
     if (!run.files.FolderExists(settings)) run.files.CreateFolder(settings);
     for (store::Area area : RebuildOrder())

@@ -1,5 +1,7 @@
 #include "store/paths.h"
 
+#include <algorithm>
+#include <cctype>
 #include <system_error>
 #include <vector>
 
@@ -85,7 +87,7 @@ bool HasDrive(std::string_view file) {
     return file.size() >= 3 && file[1] == ':' && file[2] == '\\';
 }
 
-std::optional<fs::path> ToNativePath(std::string_view scriptPath) {
+std::optional<fs::path> ToNativePath(std::string_view scriptPath, FolderListings* listings) {
     if (!HasDrive(scriptPath)) return std::nullopt;
     fs::path native = "/";
     bool matching = true;  // whether the folder so far exists, so that listing it makes sense
@@ -93,6 +95,12 @@ std::optional<fs::path> ToNativePath(std::string_view scriptPath) {
         const std::string name = Cp1252ToUtf8(part);
         if (part == "." || part == "..") {
             native /= name;
+            continue;
+        }
+        if (matching && listings != nullptr) {
+            const std::optional<std::string> entry = listings->Match(native, name);
+            matching = entry.has_value();
+            native /= matching ? *entry : name;
             continue;
         }
         std::error_code error;
@@ -112,6 +120,56 @@ std::optional<fs::path> ToNativePath(std::string_view scriptPath) {
         native /= name;
     }
     return native;
+}
+
+bool IsWriteTemporary(const fs::path& file) {
+    const std::string name = file.filename().string();
+    const size_t dot = name.size() >= 8 ? name.size() - 7 : std::string::npos;
+    if (dot == std::string::npos || name[0] != '.' || name[dot] != '.') return false;
+    return std::all_of(name.end() - 6, name.end(),
+                       [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; });
+}
+
+FolderListings::Listing& FolderListings::Of(const fs::path& folder) {
+    const auto [at, added] = folders_.try_emplace(folder.native());
+    if (!added) return at->second;
+    Listing& listing = at->second;
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(folder, error)) {
+        std::string name = entry.path().filename().string();
+        if (IsWriteTemporary(entry.path())) listing.temporaries.push_back(name);
+        listing.byFolded.try_emplace(FoldCase(Utf8ToCp1252(name)), name);
+        listing.names.insert(std::move(name));
+    }
+    return listing;
+}
+
+std::optional<std::string> FolderListings::Match(const fs::path& folder, const std::string& name) {
+    Listing& listing = Of(folder);
+    if (listing.names.contains(name)) return name;
+    const auto found = listing.byFolded.find(FoldCase(Utf8ToCp1252(name)));
+    if (found == listing.byFolded.end()) return std::nullopt;
+    return found->second;
+}
+
+const std::vector<std::string>& FolderListings::Temporaries(const fs::path& folder) {
+    return Of(folder).temporaries;
+}
+
+void FolderListings::Added(const fs::path& path, bool madeEmpty) {
+    const auto parent = folders_.find(path.parent_path().native());
+    if (parent != folders_.end()) {
+        std::string name = path.filename().string();
+        parent->second.byFolded.try_emplace(FoldCase(Utf8ToCp1252(name)), name);
+        parent->second.names.insert(std::move(name));
+    }
+    if (madeEmpty) folders_.try_emplace(path.native());
+}
+
+void FolderListings::Removed(const fs::path& path) {
+    // Another entry may now be the first of its folded name: the folder is listed again.
+    folders_.erase(path.parent_path().native());
+    folders_.erase(path.native());
 }
 
 std::string HubFolderOf(std::string_view programFolder) {

@@ -9,8 +9,42 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
 
 namespace qb::store {
+
+// The folders a run of resolutions has listed, each listed once. A name that isn't on the disk as
+// given is looked for ignoring letter case, which takes a listing of its folder: a rebuild that
+// makes a thousand files in one folder would list it a thousand times, and a file's write lists
+// it once more for a cut-off write's temporaries. The owner tells the cache of every file and
+// folder it makes or removes; nothing else may change the folders while the cache is in use.
+class FolderListings {
+  public:
+    // The entry of `folder` that `name` (UTF-8) resolves to: the name itself where the folder
+    // holds it, else the first entry in the folder's listing order whose name is the same letter
+    // case aside. Nothing when none is, or the folder can't be listed.
+    std::optional<std::string> Match(const std::filesystem::path& folder, const std::string& name);
+    // The entries of `folder` that look like a write's leftover temporary.
+    const std::vector<std::string>& Temporaries(const std::filesystem::path& folder);
+
+    // `path` was made: a file, or a folder (`madeEmpty`: a folder known to hold nothing).
+    void Added(const std::filesystem::path& path, bool madeEmpty = false);
+    // `path` was removed.
+    void Removed(const std::filesystem::path& path);
+    void Clear() { folders_.clear(); }
+
+  private:
+    struct Listing {
+        std::unordered_set<std::string> names;
+        // By the folded Windows-1252 name, the first entry in listing order that has it.
+        std::unordered_map<std::string, std::string> byFolded;
+        std::vector<std::string> temporaries;
+    };
+    Listing& Of(const std::filesystem::path& folder);
+    std::unordered_map<std::string, Listing> folders_;  // by the folder's Linux path
+};
 
 // An absolute Linux path in the scripts' form: "/srv/hub/scripts" becomes "Z:\srv\hub\scripts".
 // File names are UTF-8 on Linux and Windows-1252 in the core.
@@ -20,7 +54,12 @@ std::string ToScriptPath(const std::filesystem::path& native);
 // against what exists ignoring letter case, as the scripts' home system does, and takes the
 // existing entry's name; from the first component that matches nothing on, names are used as given.
 // A text without a drive ("\\server\share", "Settings\x.tbl") has no Linux path.
-std::optional<std::filesystem::path> ToNativePath(std::string_view scriptPath);
+// With `listings`, each folder is listed at most once for all the resolutions that share them.
+std::optional<std::filesystem::path> ToNativePath(std::string_view scriptPath,
+                                                  FolderListings* listings = nullptr);
+
+// Whether a file is what a cut-off write leaves: ".<name>.XXXXXX" beside the file it was for.
+bool IsWriteTemporary(const std::filesystem::path& file);
 
 // Characters 2 and 3 are ":\": the text is used as it stands instead of below a folder.
 bool HasDrive(std::string_view file);

@@ -42,23 +42,31 @@ std::string TemporaryPrefix(const fs::path& target) {
     return "." + target.filename().string() + ".";
 }
 
-// Whether a file is what a write cut off left: ".<name>.XXXXXX" beside the file it was for.
-bool IsWriteTemporary(const fs::path& file) {
-    const std::string name = file.filename().string();
-    const size_t dot = name.size() >= 8 ? name.size() - 7 : std::string::npos;
-    if (dot == std::string::npos || name[0] != '.' || name[dot] != '.') return false;
-    return std::all_of(name.end() - 6, name.end(),
-                       [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; });
-}
-
 // A write cut off by a crash or a kill leaves its temporary file behind: the next write of the
-// same file clears it away, so that a folder doesn't fill with them.
-void RemoveStaleTemporaries(const fs::path& target) {
+// same file clears it away, so that a folder doesn't fill with them. With `listings`, the folder's
+// temporaries come from its one listing.
+void RemoveStaleTemporaries(const fs::path& target, FolderListings* listings) {
     const std::string prefix = TemporaryPrefix(target);
+    const auto stale = [&](const std::string& name) {
+        return name.size() == prefix.size() + 6 && name.starts_with(prefix);
+    };
     std::error_code ec;
+    if (listings != nullptr) {
+        const fs::path folder = target.parent_path();
+        std::vector<fs::path> gone;
+        for (const std::string& name : listings->Temporaries(folder)) {
+            if (stale(name) && fs::is_regular_file(folder / name, ec))
+                gone.push_back(folder / name);
+        }
+        for (const fs::path& path : gone) {
+            fs::remove(path, ec);
+            listings->Removed(path);
+        }
+        return;
+    }
     for (const auto& entry : fs::directory_iterator(target.parent_path(), ec)) {
         const std::string name = entry.path().filename().string();
-        if (name.size() != prefix.size() + 6 || !name.starts_with(prefix)) continue;
+        if (!stale(name)) continue;
         if (IsWriteTemporary(entry.path()) && entry.is_regular_file(ec)) {
             fs::remove(entry.path(), ec);
         }
@@ -135,6 +143,7 @@ TableFiles::ReadScope::~ReadScope() {
         files_.lastCached_ = nullptr;
         files_.cache_.clear();
         files_.natives_.clear();
+        files_.listings_.Clear();
     }
 }
 
@@ -145,10 +154,12 @@ void TableFiles::RecordWrites(ChangeRecord* record) {
     lastCached_ = nullptr;
     cache_.clear();
     natives_.clear();
+    listings_.Clear();
 }
 
 std::optional<fs::path> TableFiles::Native(std::string_view scriptPath) const {
-    auto native = ToNativePath(scriptPath);
+    // Inside a scope nothing but these operations changes the folders, so each is listed once.
+    auto native = ToNativePath(scriptPath, scopes_ > 0 ? &listings_ : nullptr);
     if (native && record_ != nullptr) native = record_->Spell(*native);
     return native;
 }
@@ -321,7 +332,7 @@ void TableFiles::WriteTextFile(std::string_view file, std::string_view text, boo
         return;
     }
 
-    RemoveStaleTemporaries(*native);
+    RemoveStaleTemporaries(*native, scopes_ > 0 ? &listings_ : nullptr);
     std::string temp = (native->parent_path() / TemporaryPrefix(*native)).string() + "XXXXXX";
     const int fd = ::mkstemp(temp.data());
     if (fd < 0) throw FatalError(shown, Reason(errno));
@@ -353,6 +364,7 @@ void TableFiles::WriteTextFile(std::string_view file, std::string_view text, boo
         throw FatalError(shown, Reason(err));
     }
     ownWrites_[shown] = StampAt(*native);
+    if (!existed && scopes_ > 0) listings_.Added(*native);
 }
 
 FileStamp TableFiles::StampOf(std::string_view file, bool inAppFolder) const {
@@ -400,9 +412,9 @@ void TableFiles::CreateFolder(std::string_view path) {
         natives_.clear();
         return;
     }
-    if (::mkdir(native->c_str(), 0777) != 0 && errno != EEXIST) {
-        throw FatalError(native->string(), Reason(errno));
-    }
+    const bool made = ::mkdir(native->c_str(), 0777) == 0;
+    if (!made && errno != EEXIST) throw FatalError(native->string(), Reason(errno));
+    if (made && scopes_ > 0) listings_.Added(*native, true);
     std::error_code ec;
     if (!fs::is_directory(*native, ec)) throw FatalError(native->string(), Reason(ENOTDIR));
     lastCached_ = nullptr;
@@ -443,6 +455,7 @@ bool TableFiles::DeleteFile(std::string_view path) {
     if (!native || !fs::is_regular_file(*native, ec)) return false;
     if (record_ != nullptr) throw FatalError(native->string(), "a dry run deletes nothing");
     Forget(native->string());
+    listings_.Removed(*native);
     if (::unlink(native->c_str()) == 0) return true;
     if (errno == ENOENT) return false;  // gone between the look and the unlink
     throw FatalError(native->string(), Reason(errno));

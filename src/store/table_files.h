@@ -13,6 +13,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "store/paths.h"
 #include "store/scanners.h"
 
 namespace qb::store {
@@ -161,6 +162,8 @@ class TableFiles {
     int scopes_ = 0;
     bool indexing_ = true;
     std::unordered_map<std::string, std::string> natives_;  // script path -> Linux path
+    // The folders the scope has listed to resolve names ignoring letter case.
+    mutable FolderListings listings_;
     std::unordered_map<std::string, std::unique_ptr<CachedFile>> cache_;  // by Linux path
     std::unordered_map<std::string, FileStamp> ownWrites_;                // by Linux path
     // The file the last one-key read in a scope asked, as it was named: a page asks one file for

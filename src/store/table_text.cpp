@@ -39,8 +39,14 @@ TableText& TableText::Close(int depth) {
 }
 
 TableText& TableText::Row(int depth, int number, std::string_view value) {
-    Line(depth, "[");
-    text_ += std::to_string(number);
+    return Row(depth, std::to_string(number), value);
+}
+
+TableText& TableText::Row(int depth, std::string_view number, std::string_view value) {
+    text_ += kNewline;
+    text_.append(static_cast<size_t>(depth), '\t');
+    text_ += '[';
+    text_ += number;
     text_ += "] = ";
     text_ += value;
     text_ += ',';

@@ -21,6 +21,11 @@ class TableText {
     TableText& Open(int depth, std::string_view name);                           // name = {
     TableText& Close(int depth);                                                 // },
     TableText& Row(int depth, int number, std::string_view value);               // [n] = value,
+    // The same row with its number already in text: a matrix writes each number P times.
+    TableText& Row(int depth, std::string_view number, std::string_view value);
+
+    // Room for `bytes` more, so that a text of megabytes grows once.
+    void Reserve(size_t bytes) { text_.reserve(text_.size() + bytes); }
 
     // The text with the end line "}" behind it, handed over: the writer is done with it.
     std::string End();

@@ -32,9 +32,13 @@ std::string ValueIndex::Find(std::string_view key, std::string_view table) const
     if (found == values_.end()) return {};
     int after = 0;  // with no table the whole file is in the table
     if (!table.empty()) {
-        const auto header = headers_.find(table);
-        if (header == headers_.end()) return {};
-        after = header->second;
+        if (table != lastTable_) {
+            const auto header = headers_.find(table);
+            lastTable_ = table;
+            lastAfter_ = header == headers_.end() ? -1 : header->second;
+        }
+        if (lastAfter_ < 0) return {};
+        after = lastAfter_;
     }
     const auto& occurrences = found->second;
     const auto first = std::upper_bound(

@@ -34,6 +34,10 @@ class ValueIndex {
     };
     // Where each table's header first stands: the scan looks at keys after it.
     ByText<int> headers_;
+    // The table the last lookup named and where its keys start (-1: no such table): a matrix
+    // asks one table for every profile in a row.
+    mutable std::string lastTable_;
+    mutable int lastAfter_ = -1;
     // Each key's value lines in file order.
     ByText<std::vector<Occurrence>> values_;
 };

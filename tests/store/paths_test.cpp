@@ -51,6 +51,31 @@ TEST(Paths, ComponentsMatchExistingNamesIgnoringCase) {
               hub.Settings() / "Language" / "New" / "File.tbl");
 }
 
+// Resolutions that share their folders' listings find what a resolution over the disk finds, as
+// long as every change is told to the listings.
+TEST(Paths, ListedFoldersResolveAsTheDiskDoes) {
+    test::TempHub hub;
+    for (const char* name : {"Mixed.tbl", "MIXED.tbl", "Caf\xC3\xA9.tbl"})
+        hub.WriteSetting(std::string("Lang/") + name, "x");
+    const std::string lang = ToScriptPath(hub.Settings()) + "\\LANG\\";
+    FolderListings listings;
+    const auto same = [&](const std::string& name) {
+        EXPECT_EQ(ToNativePath(lang + name, &listings), ToNativePath(lang + name)) << name;
+    };
+    // Each exact name wins over the other spelling; any other takes the listing's first.
+    for (const char* name : {"Mixed.tbl", "MIXED.tbl", "mixed.TBL", "CAF\xC9.TBL", "None.tbl"})
+        same(name);
+    hub.WriteSetting("Lang/New.tbl", "x");
+    listings.Added(hub.Settings() / "Lang" / "New.tbl");
+    same("NEW.tbl");
+    fs::remove(hub.Settings() / "Lang" / "Mixed.tbl");
+    listings.Removed(hub.Settings() / "Lang" / "Mixed.tbl");
+    same("mixed.tbl");
+    // A change nobody told of stays unseen: the folder isn't listed again.
+    hub.WriteSetting("Lang/Other.tbl", "x");
+    EXPECT_EQ(*ToNativePath(lang + "OTHER.tbl", &listings), hub.Settings() / "Lang" / "OTHER.tbl");
+}
+
 TEST(Paths, FoldCaseCoversTheLettersOfWindows1252) {
     EXPECT_EQ(FoldCase("ABC\xC9\x8A\x9F"), "abc\xE9\x9A\xFF");
     EXPECT_EQ(FoldCase("\xD7\xF7"), "\xD7\xF7");  // the multiplication and division signs

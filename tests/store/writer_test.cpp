@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <optional>
 
 #include "store/fatal_error.h"
 #include "store/table_files.h"
@@ -63,15 +64,30 @@ TEST_F(Writer, AReadOnlyFileIsFatalAndStaysAsItWas) {
     EXPECT_EQ(EntriesIn(hub.Settings()), 1u);
 }
 
+// Inside a scope each folder is listed once, and the writes keep that listing up to date.
 TEST_F(Writer, ClearsWhatAnInterruptedWriteOfTheSameFileLeftBehind) {
-    hub.WriteSetting(".a.tbl.Xy12Zq", "cut short");     // a write killed before its rename
-    hub.WriteSetting(".a.tbl.notes", "someone's own");  // not one of ours
-    hub.WriteSetting(".b.tbl.Xy12Zq", "another file's");
-    files.WriteTextFile("a.tbl", "whole");
-    EXPECT_FALSE(fs::exists(hub.Settings() / ".a.tbl.Xy12Zq"));
-    EXPECT_TRUE(fs::exists(hub.Settings() / ".a.tbl.notes"));
-    EXPECT_TRUE(fs::exists(hub.Settings() / ".b.tbl.Xy12Zq"));
-    EXPECT_EQ(hub.ReadSetting("a.tbl"), "whole\r\n");
+    for (const bool inScope : {false, true}) {
+        SCOPED_TRACE(inScope ? "inside a read scope" : "outside any scope");
+        hub.WriteSetting(".a.tbl.Xy12Zq", "cut short");     // a write killed before its rename
+        hub.WriteSetting(".a.tbl.notes", "someone's own");  // not one of ours
+        hub.WriteSetting(".b.tbl.Xy12Zq", "another file's");
+        std::optional<TableFiles::ReadScope> scope;
+        if (inScope) scope.emplace(files);
+        files.WriteTextFile("a.tbl", "whole");
+        EXPECT_FALSE(fs::exists(hub.Settings() / ".a.tbl.Xy12Zq"));
+        EXPECT_TRUE(fs::exists(hub.Settings() / ".a.tbl.notes"));
+        EXPECT_TRUE(fs::exists(hub.Settings() / ".b.tbl.Xy12Zq"));
+        EXPECT_EQ(hub.ReadSetting("a.tbl"), "whole\r\n");
+        files.WriteTextFile("b.tbl", "too");
+        EXPECT_FALSE(fs::exists(hub.Settings() / ".b.tbl.Xy12Zq"));
+        // The file the first write made is found by its name, letter case aside.
+        files.WriteTextFile("A.TBL", "again");
+        EXPECT_EQ(hub.ReadSetting("a.tbl"), "again\r\n");
+        EXPECT_EQ(EntriesIn(hub.Settings()), 3u);
+        scope.reset();
+        for (const char* name : {"a.tbl", "b.tbl", ".a.tbl.notes"})
+            fs::remove(hub.Settings() / name);
+    }
 }
 
 TEST_F(Writer, KeepsTheModeOfTheFileItReplaces) {

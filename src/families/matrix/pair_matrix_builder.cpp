@@ -2,6 +2,9 @@
 // every cell is carried over by its By and On numbers, numbers new to the hub start at 0, and
 // numbers the hub lost are dropped. A profile's name plays no part in it.
 
+#include <string>
+#include <vector>
+
 #include "families/matrix/pair_matrix.h"
 #include "store/table_text.h"
 
@@ -29,18 +32,27 @@ void BuildPairFile(const PairFile& file, int firstOn, const PassiveVariant* pass
         return value.empty() ? std::string("0") : value;
     };
 
+    // Every profile number is a key P times over: each is made into text once.
+    std::vector<std::string> numbers;
+    for (int number = -1; number <= run.lastProfile; ++number)
+        numbers.push_back(std::to_string(number));
+    const auto number = [&](int n) -> const std::string& {
+        return numbers[static_cast<size_t>(n + 1)];
+    };
     store::TableText text(file.table + " = {");
+    // A cell's line is some ten bytes: the text grows once.
+    text.Reserve(numbers.size() * (numbers.size() + 4) * 12);
     if (passive != nullptr) {
         text.Open(1, passive->subTable);
-        for (int number = -1; number <= run.lastProfile; ++number)
-            text.Row(2, number, old(std::to_string(number), passive->subTable));
+        for (int n = -1; n <= run.lastProfile; ++n)
+            text.Row(2, number(n), old(number(n), passive->subTable));
         text.Close(1);
     }
     for (int by = -1; by <= run.lastProfile; ++by) {
-        const std::string group = std::to_string(by);
+        const std::string& group = number(by);
         text.Open(1, "[" + group + "]");
         for (int on = firstOn; on <= run.lastProfile; ++on)
-            text.Row(2, on, old(std::to_string(on), group));
+            text.Row(2, number(on), old(number(on), group));
         if (passive != nullptr) {
             for (const std::string& word : passive->builderWords)
                 text.Bare(2, word, old(word, group));
