@@ -77,7 +77,8 @@ class Container {
     // Opens the page of a function key (the selected node's when `key` is empty), or brings it
     // to the front, and lists it in the open windows. A group or intermediate node opens nothing;
     // an intermediate node is listed all the same, unless the selected node is bold. A function
-    // whose page isn't built yet opens and lists nothing. Returns the page, or null.
+    // whose page isn't registered (the portal, where no hub link is given) opens and lists
+    // nothing. Returns the page, or null.
     Page* OpenFunctionPage(std::string key);
     // Loads and shows the page of `key`, or brings it to the front, without the open window
     // list; there is never a second instance of a page. Null when the key has no page.
