@@ -1,6 +1,8 @@
 #include "cli/driver.h"
 
 #include <charconv>
+#include <filesystem>
+#include <fstream>
 #include <map>
 
 #include "cli/page_json.h"
@@ -179,10 +181,26 @@ void Driver::ShowAllWindows(const std::string& choice) {
     container_.OpenFunctionPage(container_.OpenWindows().Item(chosen).WindowTag());
 }
 
+void Driver::WriteAsAnotherProgram(const std::string& file, const std::vector<std::string>& lines) {
+    // As an editor or the scripts would: a new file put in place, each line ended by CRLF.
+    const auto native =
+        store::ToNativePath(container_.Files().SettingsFolder() + "\\" + Utf8ToCp1252(file));
+    if (!native) throw ScriptError("no file " + file);
+    std::string bytes;
+    for (const std::string& line : lines)
+        bytes += line + "\r\n";
+    const std::filesystem::path temp = native->string() + ".outside";
+    std::ofstream(temp, std::ios::binary) << Utf8ToCp1252(bytes);
+    std::filesystem::rename(temp, *native);
+}
+
 void Driver::Execute(const std::vector<std::string>& words) {
     using shell::ControlKind;
     const std::string& action = words.front();
     if (ended_) throw ScriptError("the program has ended");
+    // The user sees what another program did to a page's files before doing anything more.
+    for (const auto& page : container_.OpenPages())
+        page->CheckDisk();
     if (action == "open") {
         Need(words, 2, 2, "open KEY");
         if (!shell::IsCatalogueKey(words[1]))
@@ -315,6 +333,17 @@ void Driver::Execute(const std::vector<std::string>& words) {
     } else if (action == "file") {
         Need(words, 2, 2, "file PATH|Cancel");
         host_.QueueFile(PathOrCancel(words[1]));
+    } else if (action == "disk") {
+        Need(words, 2, words.size(), "disk FILE [LINE...]");
+        WriteAsAnotherProgram(words[1], {words.begin() + 2, words.end()});
+    } else if (action == "bar") {
+        Need(words, 2, 2, "bar Reload|\"Keep mine\"");
+        shell::Page& page = ActivePage();
+        if (words[1] != "Reload" && words[1] != "Keep mine") {
+            throw ScriptError("bar takes Reload or \"Keep mine\"");
+        }
+        Refused(words[1] == "Reload" ? page.UserReloadFromDisk() : page.UserKeepMine(),
+                "click " + words[1] + " on the bar of " + page.Caption());
     } else if (action == "show") {
         Need(words, 1, 2, "show [KEY]");
         if (words.size() == 2 && words[1] == "frmContainer") {

@@ -37,6 +37,8 @@ class Driver {
   private:
     void MenuClick(const std::string& name);
     void ShowAllWindows(const std::string& choice);
+    // The drive's `disk`: another program replaces a file below the settings folder.
+    void WriteAsAnotherProgram(const std::string& file, const std::vector<std::string>& lines);
     shell::Page& ActivePage() const;
     shell::Control& ControlOf(const std::string& name) const;
 

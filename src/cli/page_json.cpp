@@ -233,6 +233,16 @@ std::string PageJson(const shell::Page& page) {
         json.Text("key", page.Key());
         json.Text("caption", page.Caption());
         json.Bool("dirty", page.SaveRequired());
+        if (page.DiskBarShown()) {
+            // The bar over the page when another program changed its files.
+            std::string& bar = json.Key("diskBar");
+            JsonObject fields(bar);
+            fields.Text("text", shell::Page::kDiskBarText);
+            Array(fields.Key("files"), page.DiskBarFiles(),
+                  [&](const std::string& file) { bar += JsonString(file); });
+            Array(fields.Key("buttons"), std::vector<std::string>{"Reload", "Keep mine"},
+                  [&](const std::string& button) { bar += JsonString(button); });
+        }
         Array(json.Key("status"), page.Status().Panels(),
               [&](const shell::StatusPanel& panel) { out += JsonString(panel.text); });
         std::vector<const Control*> controls;

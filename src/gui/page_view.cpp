@@ -6,6 +6,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCursor>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -14,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPalette>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -226,6 +229,7 @@ PageView::PageView(shell::Page& page, QWidget* parent) : QWidget(parent), page_(
 
     auto& toolbar = const_cast<shell::Toolbar&>(page.FormToolbar());
     outer->addWidget(new ToolbarBinding(toolbar));
+    outer->addWidget(BuildDiskBar());
 
     // An up-down shows its value itself: its read-only text box isn't drawn.
     for (const auto& control : page.Controls()) {
@@ -312,6 +316,60 @@ void PageView::ShowTooltip(const shell::Tooltip& tip) {
 PageView::~PageView() {
     for (shell::Control* control : bound_)
         control->SetListener(nullptr);
+    page_.onDiskBar = nullptr;
+}
+
+QWidget* PageView::BuildDiskBar() {
+    auto* bar = new QFrame;
+    bar->setObjectName(QStringLiteral("barDisk"));
+    bar->setFrameShape(QFrame::StyledPanel);
+    bar->setAutoFillBackground(true);
+    QPalette palette = bar->palette();
+    palette.setColor(QPalette::Window, QColor(0xff, 0xf4, 0xce));
+    bar->setPalette(palette);
+    auto* row = new QHBoxLayout(bar);
+    auto* text = new QLabel(QString::fromLatin1(shell::Page::kDiskBarText));
+    text->setObjectName(QStringLiteral("lblDisk"));
+    auto* reload = new QPushButton(QStringLiteral("Reload"));
+    reload->setObjectName(QStringLiteral("cmdReload"));
+    auto* keep = new QPushButton(QStringLiteral("Keep mine"));
+    keep->setObjectName(QStringLiteral("cmdKeepMine"));
+    row->addWidget(text, 1);
+    row->addWidget(reload);
+    row->addWidget(keep);
+    connect(reload, &QPushButton::clicked, this, [this] { page_.UserReloadFromDisk(); });
+    connect(keep, &QPushButton::clicked, this, [this] { page_.UserKeepMine(); });
+    auto sync = [this, bar, text] {
+        QStringList files;
+        for (const std::string& file : page_.DiskBarFiles())
+            files << ToQt(file);
+        text->setText(QString::fromLatin1(shell::Page::kDiskBarText) + QStringLiteral(": ") +
+                      files.join(QStringLiteral(", ")));
+        bar->setVisible(page_.DiskBarShown());
+    };
+    page_.onDiskBar = sync;
+    sync();
+
+    // A file replaced by a rename leaves the watch, so its folder is watched as well, and the
+    // files are watched again after each change.
+    auto* watcher = new QFileSystemWatcher(this);
+    auto watch = [this, watcher] {
+        for (const std::string& path : page_.WatchedPaths()) {
+            const QString name = QString::fromStdString(path);
+            if (QFileInfo::exists(name) && !watcher->files().contains(name) &&
+                !watcher->directories().contains(name)) {
+                watcher->addPath(name);
+            }
+        }
+    };
+    auto changed = [this, watch] {
+        page_.CheckDisk();
+        watch();
+    };
+    connect(watcher, &QFileSystemWatcher::fileChanged, this, changed);
+    connect(watcher, &QFileSystemWatcher::directoryChanged, this, changed);
+    watch();
+    return bar;
 }
 
 QSize PageView::MinimumPixels() const {

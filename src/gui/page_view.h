@@ -33,6 +33,9 @@ class PageView : public QWidget {
     };
 
     void ShowTooltip(const shell::Tooltip& tip);
+    // The bar over the page when another program changed its files, and the watcher that
+    // notices it.
+    QWidget* BuildDiskBar();
     Shown Build(const shell::Control& control);
     Shown BuildItem(const shell::Layout& item);
     // A row of a label and one field, maybe with a label of its unit behind it, which a column

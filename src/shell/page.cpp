@@ -1,9 +1,11 @@
 #include "shell/page.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "shell/page_frame.h"
 #include "shell/profile_checks.h"
+#include "store/paths.h"
 
 namespace qb::shell {
 namespace {
@@ -275,6 +277,86 @@ void Page::Reload() {
     LoadSettings();
     for (const auto& editor : editors_)
         editor->Loaded();
+    NoteFilesOnDisk();
+}
+
+void Page::NoteFilesOnDisk() {
+    read_.clear();
+    kept_.clear();
+    for (const store::FileSchema* file : files_)
+        read_[file] = context_.files.StampOf(file->file, file->inAppFolder);
+    SetDiskBar(false);
+}
+
+void Page::SetDiskBar(bool shown) {
+    if (!shown) barFiles_.clear();
+    if (diskBar_ == shown) return;
+    diskBar_ = shown;
+    if (onDiskBar) onDiskBar();
+}
+
+std::vector<std::string> Page::ChangedOnDisk() {
+    std::vector<std::string> changed;
+    for (const store::FileSchema* file : files_) {
+        const store::FileStamp now = context_.files.StampOf(file->file, file->inAppFolder);
+        if (now == read_[file]) continue;
+        // The program's own write (another page's, a text editor's): the page wrote or saw it.
+        if (context_.files.WroteLast(file->file, file->inAppFolder, now)) {
+            read_[file] = now;
+            continue;
+        }
+        changed.push_back(file->file);
+    }
+    return changed;
+}
+
+bool Page::CheckDisk() {
+    bool news = false;
+    const std::vector<std::string> changed = ChangedOnDisk();
+    for (const std::string& name : changed) {
+        for (const store::FileSchema* file : files_) {
+            if (file->file != name) continue;
+            const auto kept = kept_.find(file);
+            if (kept == kept_.end() ||
+                kept->second != context_.files.StampOf(file->file, file->inAppFolder)) {
+                news = true;
+            }
+        }
+    }
+    if (news) {
+        barFiles_ = changed;
+        SetDiskBar(true);
+    }
+    return diskBar_;
+}
+
+bool Page::UserReloadFromDisk() {
+    if (!diskBar_) return false;
+    Reload();
+    MarkClean();
+    return true;
+}
+
+bool Page::UserKeepMine() {
+    if (!diskBar_) return false;
+    for (const store::FileSchema* file : files_)
+        kept_[file] = context_.files.StampOf(file->file, file->inAppFolder);
+    SetDiskBar(false);
+    return true;
+}
+
+std::vector<std::string> Page::WatchedPaths() const {
+    std::vector<std::string> paths;
+    for (const store::FileSchema* file : files_) {
+        const auto native =
+            store::ToNativePath(context_.files.Resolve(file->file, file->inAppFolder, true));
+        if (!native) continue;
+        paths.push_back(native->string());
+        paths.push_back(native->parent_path().string());
+    }
+    std::sort(paths.begin(), paths.end());
+    paths.erase(std::unique(paths.begin(), paths.end()), paths.end());
+    return paths;
 }
 
 bool Page::QueryUnload() {
@@ -284,8 +366,18 @@ bool Page::QueryUnload() {
 
 void Page::FormToolbarClick(const std::string& key) {
     if (key == "SAVE") {
+        const std::vector<std::string> changed = ChangedOnDisk();
+        if (!changed.empty()) {
+            const Message ask{changed.front() +
+                                  " changed on disk since this page read it. Overwrite it with "
+                                  "the page's values?",
+                              "Vandrell's Quillbook: File Changed On Disk", Buttons::YesNo,
+                              Icon::Exclamation};
+            if (context_.host.ShowMessage(ask) != Answer::Yes) return;
+        }
         SaveSettings();
         MarkClean();
+        NoteFilesOnDisk();
     } else if (key == "DISCARD") {
         if (!Confirm("Discard all unsaved changes?", "Discard changes?")) return;
         Reload();

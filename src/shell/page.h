@@ -85,6 +85,27 @@ class Page {
     bool PopupEntryVisible(const std::string& entry) const {
         return !hiddenEntries_.contains(entry);
     }
+    // Another program's writes. The page notes its files as it reads and saves them. When one
+    // has changed on disk since, CheckDisk shows a bar, "This file changed on disk", with Reload
+    // (read the files again, dropping the page's changes) and Keep mine (leave the page as it
+    // is; the bar stays away until the file changes again). SAVE over a changed file asks first.
+    // The front ends call CheckDisk when they may have missed a change: the window when its
+    // watcher fires, the drive before each action. True when the bar shows.
+    bool CheckDisk();
+    bool DiskBarShown() const { return diskBar_; }
+    // The files the bar tells of.
+    const std::vector<std::string>& DiskBarFiles() const { return barFiles_; }
+    // The page's files that another program has changed since the page read or wrote them.
+    std::vector<std::string> ChangedOnDisk();
+    bool UserReloadFromDisk();  // the bar's buttons; false when the bar isn't shown
+    bool UserKeepMine();
+    // What a watcher of the disk must watch for this page: each file and its folder, as a file
+    // replaced by a rename is a new file.
+    std::vector<std::string> WatchedPaths() const;
+    static constexpr const char* kDiskBarText = "This file changed on disk";
+    // Told when the bar shows or goes.
+    std::function<void()> onDiskBar;
+
     // Told when the page pops up one of the main window's menus (mnuFirst, mnuUserActions...).
     std::function<void(const std::string& menu)> onPopupMenu;
 
@@ -152,6 +173,9 @@ class Page {
   private:
     Control& Declared(const std::string& name) const;
     void MakeDeclared(const PageDecl& decl);
+    // The page's files are as it last read or wrote them.
+    void NoteFilesOnDisk();
+    void SetDiskBar(bool shown);
     void ResolveNames(Layout& layout) const;
 
     std::string key_;
@@ -167,6 +191,11 @@ class Page {
     std::map<std::string, std::function<void()>> menuMethods_;
     std::set<std::string> hiddenEntries_;
     std::vector<const store::FileSchema*> files_;
+    // Each file as the page last read or wrote it, and as the user last let it be (Keep mine).
+    std::map<const store::FileSchema*, store::FileStamp> read_;
+    std::map<const store::FileSchema*, store::FileStamp> kept_;
+    bool diskBar_ = false;
+    std::vector<std::string> barFiles_;
     std::vector<std::unique_ptr<Binding>> bindings_;
     std::vector<std::unique_ptr<RowEditor>> editors_;
     std::vector<std::pair<Toolbar*, std::vector<void (*)(Toolbar&)>>> toolbarSetups_;

@@ -16,21 +16,6 @@ namespace {
 
 constexpr long long kContext = 3;
 
-// A file's lines, each with its end: the same ends the readers take (CRLF, CR, LF).
-std::vector<std::string> SplitKeepingEnds(std::string_view text) {
-    std::vector<std::string> lines;
-    size_t start = 0;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
-        if (text[i] == '\r' || text[i] == '\n') {
-            lines.emplace_back(text.substr(start, i + 1 - start));
-            start = i + 1;
-        }
-    }
-    if (start < text.size()) lines.emplace_back(text.substr(start));
-    return lines;
-}
-
 // One line of the diff, with the note on its end where it isn't CRLF.
 void AppendLine(std::string& out, char sign, const std::string& line) {
     std::string_view text = line;
@@ -119,11 +104,25 @@ bool ReadWhole(const fs::path& path, std::string& bytes) {
 
 }  // namespace
 
+std::vector<std::string> LinesWithEnds(std::string_view text) {
+    std::vector<std::string> lines;
+    size_t start = 0;
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
+        if (text[i] == '\r' || text[i] == '\n') {
+            lines.emplace_back(text.substr(start, i + 1 - start));
+            start = i + 1;
+        }
+    }
+    if (start < text.size()) lines.emplace_back(text.substr(start));
+    return lines;
+}
+
 std::string UnifiedDiff(std::string_view before, std::string_view after, const std::string& from,
                         const std::string& to) {
     if (before == after) return {};
-    const std::vector<std::string> a = SplitKeepingEnds(before);
-    const std::vector<std::string> b = SplitKeepingEnds(after);
+    const std::vector<std::string> a = LinesWithEnds(before);
+    const std::vector<std::string> b = LinesWithEnds(after);
     dtl::Diff<std::string, std::vector<std::string>> diff(a, b);
     diff.onHuge();
     diff.compose();

@@ -12,6 +12,8 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "store/change_record.h"
 
@@ -28,6 +30,10 @@ struct ChangeCounts {
 // backslashes, as the scripts name their files.
 std::string DescribeChanges(const ChangeRecord& record, const std::filesystem::path& base,
                             ChangeCounts* counts = nullptr);
+
+// A text's lines, each with its end (CRLF, CR or LF, the ends the readers take); a last line
+// without an end stands as it is. The diff compares these.
+std::vector<std::string> LinesWithEnds(std::string_view text);
 
 // A unified diff of two texts, lines shown as above, with three lines of context; empty when
 // they are equal. The headers name the two sides.

@@ -89,6 +89,14 @@ std::unique_ptr<LineReader> OpenFile(const ChangeRecord* record, const fs::path&
     return LineReader::Open(native, error);
 }
 
+FileStamp StampAt(const fs::path& native) {
+    struct stat info {};
+    if (::stat(native.c_str(), &info) != 0) return {};
+    return {true, static_cast<std::uint64_t>(info.st_dev), static_cast<std::uint64_t>(info.st_ino),
+            static_cast<std::uint64_t>(info.st_size),
+            static_cast<std::int64_t>(info.st_mtim.tv_sec) * 1000000000 + info.st_mtim.tv_nsec};
+}
+
 mode_t DefaultFileMode() {
     static const mode_t mode = [] {
         const mode_t mask = ::umask(0);
@@ -355,7 +363,20 @@ void TableFiles::WriteTextFile(std::string_view file, std::string_view text, boo
         ::unlink(temp.c_str());
         throw FatalError(shown, Reason(err));
     }
+    ownWrites_[shown] = StampAt(*native);
     if (!existed && scopes_ > 0) listings_.Added(*native);
+}
+
+FileStamp TableFiles::StampOf(std::string_view file, bool inAppFolder) const {
+    const auto native = Native(Resolve(file, inAppFolder, true));
+    return native ? StampAt(*native) : FileStamp{};
+}
+
+bool TableFiles::WroteLast(std::string_view file, bool inAppFolder, const FileStamp& stamp) const {
+    const auto native = Native(Resolve(file, inAppFolder, true));
+    if (!native) return false;
+    const auto found = ownWrites_.find(native->string());
+    return found != ownWrites_.end() && found->second == stamp;
 }
 
 bool TableFiles::FileExists(std::string_view path) const {

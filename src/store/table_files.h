@@ -3,6 +3,7 @@
 // is a line scanner with its own split and trim rules and its own way of failing; pages depend on
 // those differences (a missing file must read as empty), so each is kept exactly.
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -26,6 +27,16 @@ struct TableRow {
 
 class ValueIndex;
 class ChangeRecord;
+
+// A file as the disk has it now: enough to tell that something has written it since.
+struct FileStamp {
+    bool exists = false;
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    std::uint64_t size = 0;
+    std::int64_t modified = 0;  // nanoseconds since the epoch
+    bool operator==(const FileStamp&) const = default;
+};
 
 class TableFiles {
   public:
@@ -101,6 +112,12 @@ class TableFiles {
     // folder is missing, the file is read-only, or the disk refuses; the old file stays whole.
     void WriteTextFile(std::string_view file, std::string_view text, bool inAppFolder = false);
 
+    // The stamp of a file as a page names it (Resolve's rules, as WriteTextFile).
+    FileStamp StampOf(std::string_view file, bool inAppFolder = false) const;
+    // Whether `stamp` is what this program's own last write of the file left: a page's file
+    // that changed so was changed by the program, not by another one.
+    bool WroteLast(std::string_view file, bool inAppFolder, const FileStamp& stamp) const;
+
     // The file system object of the scripts' home system, on script paths.
     bool FileExists(std::string_view path) const;
     bool FolderExists(std::string_view path) const;
@@ -148,6 +165,7 @@ class TableFiles {
     // The folders the scope has listed to resolve names ignoring letter case.
     mutable FolderListings listings_;
     std::unordered_map<std::string, std::unique_ptr<CachedFile>> cache_;  // by Linux path
+    std::unordered_map<std::string, FileStamp> ownWrites_;                // by Linux path
     // The file the last one-key read in a scope asked, as it was named: a page asks one file for
     // thousands of keys in a row.
     std::string lastFile_;

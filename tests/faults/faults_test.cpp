@@ -148,6 +148,24 @@ class Faults : public ::testing::Test {
         return hub;
     }
 
+    // The times after its start at which a kill lands in a start of `original`: from half of
+    // what the program takes to get going at all to the end of a whole start, timed on a copy
+    // at `reference`, which that start leaves rebuilt.
+    std::uniform_int_distribution<long> KillTimes(const fs::path& original,
+                                                  const fs::path& reference) {
+        fs::copy(original, reference, fs::copy_options::recursive);
+        auto timed = [](auto&& run) {
+            const auto start = std::chrono::steady_clock::now();
+            run();
+            return std::chrono::duration_cast<std::chrono::microseconds>(
+                       std::chrono::steady_clock::now() - start)
+                .count();
+        };
+        const long ready = timed([&] { Cli(original, {"show", "Security~CommandSpy"}); });
+        const long full = timed([&] { EXPECT_EQ(Cli(reference, {"start", "--yes"}).status, 0); });
+        return std::uniform_int_distribution<long>(ready / 2, std::max(ready, full));
+    }
+
     static fs::path Settings(const fs::path& hub) {
         return hub / "scripts" / "Vandrell's Quillbook" / "Settings";
     }
@@ -287,19 +305,8 @@ TEST_F(Faults, ARebuildKilledWhileItsBackupIsWrittenLeavesTheTreeUntouched) {
     }
     const auto before = Snapshot(Settings(original), true);
     const auto backupsBefore = Snapshot(Backups(original), true);
-    auto timed = [](auto&& run) {
-        const auto start = std::chrono::steady_clock::now();
-        run();
-        return std::chrono::duration_cast<std::chrono::microseconds>(
-            std::chrono::steady_clock::now() - start);
-    };
-    const fs::path reference = work_ / "reference";
-    fs::copy(original, reference, fs::copy_options::recursive);
-    const auto ready = timed([&] { Cli(original, {"show", "Security~CommandSpy"}); });
-    const auto full = timed([&] { ASSERT_EQ(Cli(reference, {"start", "--yes"}).status, 0); });
-
     std::mt19937 random(20261125);
-    std::uniform_int_distribution<long> when(ready.count() / 2, std::max(ready, full).count());
+    auto when = KillTimes(original, work_ / "reference");
     int killedInBackup = 0;
     for (int round = 0; round < 12; ++round) {
         const fs::path hub = work_ / ("killed" + std::to_string(round));
@@ -329,25 +336,15 @@ TEST_F(Faults, ARebuildKilledWhileItsBackupIsWrittenLeavesTheTreeUntouched) {
 TEST_F(Faults, ARebuildKilledAtRandomPointsNeverLeavesAFileHalfWritten) {
     const fs::path original = HubDueForRebuild("original");
     const auto before = Snapshot(Settings(original));
-    // The tree a rebuild that runs to its end makes, and how long that takes; and how long the
-    // program takes to get going at all, so that the kills land in the rebuild.
+    // The tree a rebuild that runs to its end makes.
     const fs::path reference = work_ / "reference";
-    fs::copy(original, reference, fs::copy_options::recursive);
-    auto timed = [](auto&& run) {
-        const auto start = std::chrono::steady_clock::now();
-        run();
-        return std::chrono::duration_cast<std::chrono::microseconds>(
-            std::chrono::steady_clock::now() - start);
-    };
-    const auto ready = timed([&] { Cli(original, {"show", "Security~CommandSpy"}); });
-    const auto full = timed([&] { ASSERT_EQ(Cli(reference, {"start", "--yes"}).status, 0); });
+    auto when = KillTimes(original, reference);
     const auto after = Snapshot(Settings(reference));
     ASSERT_NE(after, before);
     ASSERT_NE(after.at("Security/CommandSpy/CommandSpySettings.tbl").find("\t\t[2] = 1,"),
               std::string::npos);
 
     std::mt19937 random(20261122);
-    std::uniform_int_distribution<long> when(ready.count() / 2, std::max(ready, full).count());
     int killedMidway = 0;
     for (int round = 0; round < 60; ++round) {
         const fs::path hub = work_ / ("killed" + std::to_string(round));

@@ -1,10 +1,14 @@
 // The command spy page in the real window, driven through its widgets.
 
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionViewItem>
 #include <QTreeView>
 #include <QtTest>
+
+#include <filesystem>
 
 #include "gui/main_window.h"
 #include "support/window_harness.h"
@@ -81,7 +85,56 @@ class CommandSpyWindowTest : public QObject {
         QVERIFY(page->width() >= 3400 / 15 && page->height() >= 6075 / 15);
     }
 
+    void aFileChangedOnDiskShowsTheBarAndSaveAsksBeforeOverwriting() {
+        auto* bar = harness_->ActivePageWindow()->findChild<QWidget*>("barDisk");
+        QVERIFY(bar != nullptr);
+        QVERIFY(!bar->isVisible());
+        QAbstractItemModel* model =
+            harness_->Window().findChild<QTreeView*>("lvwEnabledProfiles")->model();
+
+        // Another program ticks Unregistered; the watcher shows the bar, Reload the tick.
+        WriteAsAnotherProgram({"\t\t[-1] = 1,", "\t\t[0] = 1,", "\t\t[1] = 0,"});
+        QTRY_VERIFY(bar->isVisible());
+        bar->findChild<QPushButton*>("cmdReload")->click();
+        QVERIFY(!bar->isVisible());
+        QCOMPARE(model->index(0, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+
+        // The user ticks Operator; another change comes, and the user keeps theirs.
+        model->setData(model->index(2, 0), Qt::Checked, Qt::CheckStateRole);
+        WriteAsAnotherProgram({"\t\t[-1] = 0,", "\t\t[0] = 0,", "\t\t[1] = 0,"});
+        QTRY_VERIFY(bar->isVisible());
+        bar->findChild<QPushButton*>("cmdKeepMine")->click();
+        QVERIFY(!bar->isVisible());
+        QCOMPARE(model->index(2, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+
+        // SAVE asks first; Yes writes the page's values over the other program's.
+        QString asked;
+        test::AnswerNextBox(*this, QMessageBox::Yes,
+                            [&asked](const QMessageBox& box) { asked = box.windowTitle(); });
+        SaveAction()->trigger();
+        QCOMPARE(asked, QStringLiteral("Vandrell's Quillbook: File Changed On Disk"));
+        QCOMPARE(harness_->Hub().ReadSetting("Security/CommandSpy/CommandSpySettings.tbl"),
+                 test::Crlf({"tCommandSpySettings = {", "\ttEnabledProfiles = {", "\t\t[-1] = 1,",
+                             "\t\t[0] = 1,", "\t\t[1] = 1,", "\t},", "}"}));
+        // Its own save is no change on disk.
+        QTest::qWait(200);
+        QVERIFY(!bar->isVisible());
+    }
+
   private:
+    // As an editor would: a new file renamed over the old one.
+    void WriteAsAnotherProgram(std::initializer_list<std::string_view> rows) {
+        std::vector<std::string_view> lines = {"tCommandSpySettings = {", "\ttEnabledProfiles = {"};
+        lines.insert(lines.end(), rows);
+        lines.insert(lines.end(), {"\t},", "}"});
+        std::string text;
+        for (std::string_view line : lines)
+            text += std::string(line) + "\r\n";
+        harness_->Hub().WriteSetting("Security/CommandSpy/new.tmp", text);
+        const auto folder = harness_->Hub().Settings() / "Security" / "CommandSpy";
+        std::filesystem::rename(folder / "new.tmp", folder / "CommandSpySettings.tbl");
+    }
+
     QAction* SaveAction() const { return harness_->ToolbarButton("tlbFormToolbar", "SAVE"); }
     // A panel of the page's own status bar, where its dirty mark shows.
     QLabel* StatusPanel(int index) const {

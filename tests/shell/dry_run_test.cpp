@@ -44,21 +44,6 @@ std::map<std::string, Entry> Snapshot(const fs::path& root) {
     return tree;
 }
 
-// The lines of a text with their ends, as the diff compares them.
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    size_t start = 0;
-    for (size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') ++i;
-        if (text[i] == '\r' || text[i] == '\n') {
-            lines.push_back(text.substr(start, i + 1 - start));
-            start = i + 1;
-        }
-    }
-    if (start < text.size()) lines.push_back(text.substr(start));
-    return lines;
-}
-
 // Plays a report's diffs on the files as they are, as a reader of the report would, and gives
 // each file's new bytes by its path below the settings folder. A context or removed line that
 // isn't the file's fails the test: the diff must describe the file it names.
@@ -93,7 +78,8 @@ std::map<std::string, std::string> ApplyReport(const std::string& report,
             at = 0;
             if (from != "/dev/null") {
                 std::ifstream file(settings / store::Cp1252ToUtf8(name), std::ios::binary);
-                before = Lines(std::string(std::istreambuf_iterator<char>(file), {}));
+                before =
+                    store::LinesWithEnds(std::string(std::istreambuf_iterator<char>(file), {}));
             }
         } else if (line.starts_with("@@ -")) {
             const size_t start = std::stoul(line.substr(4));
