@@ -63,8 +63,12 @@ ListRow& ListControl::Add(int index, std::string key, std::string text) {
     if (index < 1 || index > Count() + 1) {
         throw std::out_of_range(Name() + ": can't add row " + std::to_string(index));
     }
-    const auto at = rows_.begin() + (index - 1);
-    auto& row = *rows_.insert(at, ListRow{std::move(key), std::move(text), {}, false, {}});
+    // A list being filled appends row after row, hundreds of thousands for a matrix: the row is
+    // made in its place rather than made aside and moved in.
+    ListRow& row =
+        index == Count() + 1 ? rows_.emplace_back() : *rows_.emplace(rows_.begin() + (index - 1));
+    row.key = std::move(key);
+    row.text = std::move(text);
     if (selected_ >= index) ++selected_;
     Changed();
     return row;
