@@ -4,12 +4,15 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileDialog>
 #include <filesystem>
 #include <iostream>
 #include <optional>
 
 #include "gui/application.h"
 #include "store/edition.h"
+#include "store/paths.h"
 
 namespace {
 
@@ -48,13 +51,14 @@ std::optional<int> Parse(const QStringList& arguments, Options& options, bool st
         std::cout
             << kUsage
             << "\nThe Quillbook settings manager's window, on the hub's scripts folder\n"
-               "SCRIPTS_DIR (by default the folder the program is in).\n\n"
+               "SCRIPTS_DIR (by default the folder the program is in, where the script pack\n"
+               "sits beside it; else it asks for the folder).\n\n"
                "Options:\n"
                "  --program-version X.Y.Z   behave as a build of that version\n"
                "  -h, --help                print this help\n"
                "  --version                 print the program's version\n\n"
                "Exit status: 0; 1 when a file can't be written; 3 when Cancel at the rebuild\n"
-               "question ended the program. `man quillbook` tells all.\n";
+               "question or at the folder question ended the program. `man quillbook` tells all.\n";
         return 0;
     }
     if (parser.isSet(showVersion)) {
@@ -76,6 +80,19 @@ std::optional<int> Parse(const QStringList& arguments, Options& options, bool st
     return std::nullopt;
 }
 
+// The folder named on the line; else the program's own, where the pack sits beside it as in a
+// hub's scripts folder; else the one the user picks, as the desktop menu starts the installed
+// program from /usr/bin, far from any hub. None when the user cancels.
+std::optional<std::filesystem::path> ScriptsFolder(const Options& options) {
+    if (options.folder) return options.folder;
+    const std::filesystem::path own = QApplication::applicationDirPath().toStdString();
+    if (qb::store::HoldsScriptPack(own)) return own;
+    const QString chosen = QFileDialog::getExistingDirectory(
+        nullptr, QStringLiteral("Choose the hub's scripts folder"), QDir::homePath());
+    if (chosen.isEmpty()) return std::nullopt;
+    return chosen.toStdString();
+}
+
 QStringList ArgumentsOf(int argc, char** argv) {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -91,9 +108,10 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     // The application has taken its own options out of the line; the rest must be ours.
     if (const auto status = Parse(QApplication::arguments(), options, true)) return *status;
-    const std::filesystem::path folder =
-        options.folder.value_or(QApplication::applicationDirPath().toStdString());
-    qb::gui::Application program(folder, options.version);
+    const auto folder = ScriptsFolder(options);
+    // No folder chosen ends the program as a Cancel at the rebuild question does.
+    if (!folder) return 3;
+    qb::gui::Application program(*folder, options.version);
     if (const int status = program.Open(); status >= 0) return status;
     return QApplication::exec();
 }

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <system_error>
 #include <vector>
 
 #include "store/cp1252.h"
+#include "store/edition.h"
 
 namespace qb::store {
 namespace fs = std::filesystem;
@@ -170,6 +172,16 @@ void FolderListings::Removed(const fs::path& path) {
     // Another entry may now be the first of its folded name: the folder is listed again.
     folders_.erase(path.parent_path().native());
     folders_.erase(path.native());
+}
+
+bool HoldsScriptPack(const std::filesystem::path& scripts) {
+    const std::string pack = FoldCase("Vandrell's " + std::string(kEdition));
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(scripts, error)) {
+        if (entry.is_directory(error) && FoldCase(entry.path().filename().string()) == pack)
+            return true;
+    }
+    return false;
 }
 
 std::string HubFolderOf(std::string_view programFolder) {

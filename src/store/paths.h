@@ -69,6 +69,10 @@ bool HasDrive(std::string_view file);
 // Empty when the walk runs out of characters, as in a drive root.
 std::string HubFolderOf(std::string_view programFolder);
 
+// Whether a Linux folder holds the script pack's folder ("Vandrell's Quillbook"), in any letter
+// case: what makes it a hub's scripts folder the manager can open.
+bool HoldsScriptPack(const std::filesystem::path& scripts);
+
 // Letter case folded the way the scripts' home system compares file names (Windows-1252 letters).
 std::string FoldCase(std::string_view cp1252);
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <fstream>
 #include <optional>
 
 #include "store/cp1252.h"
@@ -16,6 +17,20 @@ namespace qb::store {
 namespace {
 
 namespace fs = std::filesystem;
+
+// The desktop menu starts the program with no folder, from /usr/bin: only a folder holding the
+// pack, in any letter case, is taken without asking.
+TEST(Paths, AScriptsFolderIsOneThatHoldsThePack) {
+    test::TempHub hub;
+    const fs::path scripts = hub.Root() / "other" / "scripts";
+    fs::create_directories(scripts / "vandrell's QUILLBOOK");
+    EXPECT_TRUE(HoldsScriptPack(scripts));
+    EXPECT_FALSE(HoldsScriptPack(hub.Root() / "other"));
+    EXPECT_FALSE(HoldsScriptPack(hub.Root() / "nowhere"));
+    fs::remove(scripts / "vandrell's QUILLBOOK");
+    std::ofstream(scripts / "Vandrell's Quillbook") << "a file, not the pack";
+    EXPECT_FALSE(HoldsScriptPack(scripts));
+}
 
 TEST(Paths, LinuxPathsTakeTheDriveForm) {
     EXPECT_EQ(ToScriptPath("/srv/hub/scripts"), "Z:\\srv\\hub\\scripts");
